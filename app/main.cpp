@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "app/command_line.h"
+#include "app/print_mode.h"
+#include "app/run_application.h"
+
+#include <QStringList>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int kExitSuccess = 0;
+constexpr int kExitFailure = 1;
+constexpr int kExitUsage = 2;
+
+QStringList argumentsAfterName(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    return arguments;
+}
+
+int say(const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    const auto size = static_cast<std::size_t>(bytes.size());
+    const bool isWritten = std::fwrite(bytes.constData(), 1, size, stdout) == size;
+    return isWritten && std::fflush(stdout) == 0 ? kExitSuccess : kExitFailure;
+}
+
+int complain(const quillon::UsageError& error)
+{
+    const QString text = QStringLiteral("quillon: %1\n%2").arg(error.message, quillon::usageText());
+    std::fputs(text.toUtf8().constData(), stderr);
+    return kExitUsage;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    using quillon::CommandLine;
+    const auto parsed = quillon::parseCommandLine(argumentsAfterName(argc, argv));
+    if (const auto* const error = std::get_if<quillon::UsageError>(&parsed)) {
+        return complain(*error);
+    }
+    const auto& commandLine = std::get<CommandLine>(parsed);
+    switch (commandLine.action) {
+    case CommandLine::Action::ShowHelp:
+        return say(quillon::helpText());
+    case CommandLine::Action::ShowVersion:
+        return say(QStringLiteral("Quillon %1\n").arg(QLatin1StringView(QUILLON_VERSION)));
+    case CommandLine::Action::Print:
+        return quillon::runPrintMode(argc, argv, commandLine);
+    case CommandLine::Action::OpenWindow:
+        break;
+    }
+    return quillon::runApplication(argc, argv, commandLine);
+}

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+// Single steps on the road of a byte, for finding out where time goes.
+#include "bench/generated_log.h"
+#include "model/classify.h"
+#include "model/decode_text.h"
+#include "model/line_builder.h"
+#include "model/line_enumeration.h"
+#include "model/log_recompute.h"
+#include "platform/notification_center.h"
+#include "platform/user_defaults.h"
+#include "ui/log_text_layout.h"
+#include "ui/theme.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using namespace quillon;
+
+constexpr qsizetype kLogBytes = 2'097'152;
+
+const QByteArray& log()
+{
+    static const QByteArray bytes = bench::generatedLog(kLogBytes);
+    return bytes;
+}
+
+void decode(benchmark::State& state)
+{
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(decodeText(log()));
+    }
+}
+BENCHMARK(decode)->Unit(benchmark::kMicrosecond);
+
+void enumerateLines(benchmark::State& state)
+{
+    const QString text = decodeText(log());
+    for (auto _ : state) {
+        LineEnumeration lines(text);
+        while (const auto line = lines.next()) {
+            benchmark::DoNotOptimize(line);
+        }
+    }
+}
+BENCHMARK(enumerateLines)->Unit(benchmark::kMicrosecond);
+
+void classifyLines(benchmark::State& state)
+{
+    const QString text = decodeText(log());
+    for (auto _ : state) {
+        LineEnumeration lines(text);
+        while (const auto line = lines.next()) {
+            benchmark::DoNotOptimize(classify(*line));
+        }
+    }
+}
+BENCHMARK(classifyLines)->Unit(benchmark::kMicrosecond);
+
+void buildRecords(benchmark::State& state)
+{
+    const QString text = decodeText(log());
+    for (auto _ : state) {
+        LogLines lines;
+        appendParsedText(text, 0, lines);
+        benchmark::DoNotOptimize(lines.size());
+    }
+}
+BENCHMARK(buildRecords)->Unit(benchmark::kMicrosecond);
+
+struct Styled {
+    QTemporaryDir folder;
+    NotificationCenter center;
+    UserDefaults defaults{center, folder.filePath(QStringLiteral("settings.conf"))};
+    LogLines lines;
+
+    Styled() { appendParsedText(decodeText(log()), 0, lines); }
+    AttributedString text(const QString& query = QString()) const
+    {
+        DisplayOptions options;
+        options.query = query;
+        return rebuildDisplay(lines, options, defaults).output;
+    }
+};
+
+void rebuild(benchmark::State& state)
+{
+    const Styled styled;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(styled.text(QStringLiteral("e")).length());
+    }
+}
+BENCHMARK(rebuild)->Unit(benchmark::kMicrosecond);
+
+void workOutRuns(benchmark::State& state)
+{
+    const AttributedString text = Styled().text();
+    for (auto _ : state) {
+        for (const AttributedRow& row : text.rows()) {
+            benchmark::DoNotOptimize(row.runs());
+        }
+    }
+}
+BENCHMARK(workOutRuns)->Unit(benchmark::kMicrosecond);
+
+void layOut(benchmark::State& state)
+{
+    const AttributedString text = Styled().text();
+    const auto metrics = std::make_shared<const MonospaceMetrics>(
+        monospacedSystemFont(13, FontWeight::Regular), monospacedSystemFont(13, FontWeight::Bold));
+    const Fixed column = metrics->columnAdvance();
+    Fixed columns = 100;
+    LogTextLayout layout;
+    for (auto _ : state) {
+        columns = columns == 100 ? 110 : 100;
+        layout.layOut(text, metrics, columns * column + column / 2);
+    }
+}
+BENCHMARK(layOut)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "bench/generated_log.h"
+#include "bench/ratio_table.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <vector>
+
+namespace quillon::bench {
+
+namespace {
+
+constexpr qsizetype kLogBytes = 2'097'152;
+
+QString beside(const char* name)
+{
+    return QCoreApplication::applicationDirPath() + u'/' + QLatin1StringView(name);
+}
+
+struct ProcessRun {
+    double milliseconds = 0;
+    QByteArray output;
+};
+
+ProcessRun runProcess(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
+    ProcessRun run;
+    run.milliseconds = millisecondsOf([&] {
+        process.start(program, arguments);
+        process.waitForFinished(60'000);
+    });
+    run.output = process.readAllStandardOutput();
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+        qFatal("%s failed", qPrintable(program));
+    }
+    return run;
+}
+
+QString writeLog(const QTemporaryDir& folder)
+{
+    QFile file(folder.filePath(QStringLiteral("debug.log")));
+    static_cast<void>(file.open(QIODevice::WriteOnly));
+    file.write(generatedLog(kLogBytes));
+    return file.fileName();
+}
+
+void compareStart(RatioTable& table, const QString& path)
+{
+    const QString program = beside("quillon_window_probe");
+    const QString bare = beside("quillon_bare_probe");
+    table.add(QStringLiteral("cold start to the painted log | bare Qt window"),
+              comparePairs([&] { return runProcess(program, {path}).milliseconds; },
+                           [&] { return runProcess(bare, {}).milliseconds; }, 21),
+              1.3);
+    std::vector<double> differences;
+    for (int pair = 0; pair < 9; ++pair) {
+        differences.push_back(runProcess(program, {path}).output.toDouble() -
+                              runProcess(bare, {}).output.toDouble());
+    }
+    std::nth_element(differences.begin(), differences.begin() + 4, differences.end());
+    table.addQuantity(QStringLiteral("memory with 2 MiB shown, beyond a bare window"),
+                      differences[4] / static_cast<double>(kLogBytes), QStringLiteral("B/B"), 12);
+}
+
+void compareFollowing(RatioTable& table)
+{
+    const QList<QByteArray> lines =
+        runProcess(beside("quillon_follow_probe"), {}).output.trimmed().split('\n');
+    table.addQuantity(QStringLiteral("memory while following, per byte appended"),
+                      lines.value(0).toDouble(), QStringLiteral("B/B"), 12);
+    table.addQuantity(QStringLiteral("processor time following an idle file"),
+                      lines.value(1).toDouble(), QStringLiteral("ms/s"), 1);
+}
+
+void comparePrinting(RatioTable& table, const QString& path)
+{
+    const QString name = QStringLiteral("--print --color=always of 2 MiB | lnav -n");
+    const QString lnav = QStandardPaths::findExecutable(QStringLiteral("lnav"));
+    if (lnav.isEmpty()) {
+        table.addMissing(name, QStringLiteral("lnav is not installed"));
+        return;
+    }
+    const QStringList arguments{QStringLiteral("--print"), QStringLiteral("--color=always"), path};
+    table.add(name,
+              comparePairs([&] { return runProcess(beside("quillon"), arguments).milliseconds; },
+                           [&] {
+                               return runProcess(lnav, {QStringLiteral("-n"), path}).milliseconds;
+                           }),
+              0.25);
+}
+
+} // namespace
+
+void runProcessRatios(RatioTable& table)
+{
+    const QTemporaryDir folder;
+    const QString path = writeLog(folder);
+    compareStart(table, path);
+    compareFollowing(table);
+    comparePrinting(table, path);
+}
+
+} // namespace quillon::bench

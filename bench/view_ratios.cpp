@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "bench/generated_log.h"
+#include "bench/ratio_table.h"
+#include "bench/reference_view.h"
+#include "model/decode_text.h"
+#include "model/line_builder.h"
+#include "model/log_recompute.h"
+#include "model/log_view_model.h"
+#include "platform/notification_center.h"
+#include "platform/user_defaults.h"
+#include "ui/log_text_view.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QImage>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace quillon::bench {
+
+namespace {
+
+constexpr qsizetype kLogBytes = 2'097'152;
+constexpr QSize kViewSize(1000, 700);
+
+// The view as the window has it: queued work done, scrolled to the end, painted into an image.
+class OwnView {
+public:
+    OwnView() : m_image(kViewSize, QImage::Format_ARGB32_Premultiplied)
+    {
+        m_view.resize(kViewSize);
+        m_view.show();
+        QCoreApplication::processEvents();
+    }
+
+    void show(const AttributedString& text, bool isWrapped, double fontSize = 13)
+    {
+        m_view.update(LogTextContent{text, isWrapped, fontSize});
+        QCoreApplication::sendPostedEvents(&m_view, QEvent::MetaCall);
+        paint();
+    }
+    void resize(int width)
+    {
+        m_view.resize(width, kViewSize.height());
+        paint();
+    }
+    void scrollToTopAndBack()
+    {
+        m_view.verticalScrollBar()->setValue(0);
+        paint();
+        m_view.scrollToEndOfDocument();
+        paint();
+    }
+    void paint() { m_view.viewport()->render(&m_image); }
+
+private:
+    LogTextView m_view{LogTextContent{}};
+    QImage m_image;
+};
+
+struct Model {
+    QTemporaryDir folder;
+    NotificationCenter center;
+    UserDefaults defaults{center, folder.filePath(QStringLiteral("settings.conf"))};
+
+    AttributedString styled(const LogLines& lines, const QString& query = QString()) const
+    {
+        DisplayOptions options;
+        options.query = query;
+        return rebuildDisplay(lines, options, defaults).output;
+    }
+};
+
+LogLines linesOf(const QByteArray& bytes)
+{
+    LogLines lines;
+    appendParsedText(decodeText(bytes), 0, lines);
+    return lines;
+}
+
+void compareKeyPress(RatioTable& table)
+{
+    const Model model;
+    const LogLines lines = linesOf(generatedLog(kLogBytes));
+    OwnView view;
+    ReferenceView reference(kViewSize);
+    const QString query = QStringLiteral("e");
+    const auto ours = [&] {
+        return millisecondsOf([&] { view.show(model.styled(lines, query), true); });
+    };
+    const auto theirs = [&] {
+        const AttributedString text = model.styled(lines, query);
+        return millisecondsOf([&] { reference.show(text, true); });
+    };
+    table.addSpeedUp(QStringLiteral("key press: recompute, update, paint | QTextEdit"),
+                     comparePairs(ours, theirs), 50);
+}
+
+void compareReplacing(RatioTable& table, bool isWrapped)
+{
+    const Model model;
+    const LogLines lines = linesOf(generatedLog(kLogBytes));
+    OwnView view;
+    ReferenceView reference(kViewSize);
+    const auto ours = [&] {
+        const AttributedString text = model.styled(lines);
+        return millisecondsOf([&] { view.show(text, isWrapped); });
+    };
+    const auto theirs = [&] {
+        const AttributedString text = model.styled(lines);
+        return millisecondsOf([&] { reference.show(text, isWrapped); });
+    };
+    table.addSpeedUp(isWrapped
+                         ? QStringLiteral("replace, lay out, to end, paint, wrapped | QTextEdit")
+                         : QStringLiteral("the same, unwrapped | QTextEdit"),
+                     comparePairs(ours, theirs), 80);
+}
+
+void compareRewrapping(RatioTable& table)
+{
+    const Model model;
+    const LogLines lines = linesOf(generatedLog(kLogBytes));
+    OwnView view;
+    const auto replace = [&] {
+        const AttributedString text = model.styled(lines);
+        return millisecondsOf([&] { view.show(text, true); });
+    };
+    const AttributedString text = model.styled(lines);
+    int width = 900;
+    const auto rewrap = [&] {
+        view.show(text, true);
+        width = width == 900 ? 760 : 900;
+        return millisecondsOf([&] { view.resize(width); });
+    };
+    table.add(QStringLiteral("re-wrap after a change of width | replace and lay out"),
+              comparePairs(rewrap, replace, 15), 0.5);
+    double size = 13;
+    const auto resize = [&] {
+        view.show(text, true, size);
+        size = size == 13 ? 14 : 13;
+        return millisecondsOf([&] { view.show(text, true, size); });
+    };
+    table.add(QStringLiteral("re-wrap after a change of size | replace and lay out"),
+              comparePairs(resize, replace, 15), 0.5);
+}
+
+// One following view model with a view; each batch appends 100 lines to the file.
+class FollowedLog {
+public:
+    FollowedLog(const QByteArray& start, QByteArray batch) : m_batch(std::move(batch))
+    {
+        m_file.setFileName(m_model.folder.filePath(QStringLiteral("debug.log")));
+        static_cast<void>(m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        m_viewModel.followTail.set(true);
+        m_viewModel.openLog(QUrl::fromLocalFile(m_file.fileName()));
+        m_viewModel.invalidatePollTimer();
+        m_file.write(start);
+        m_viewModel.pollTail();
+        m_view.show(m_viewModel.attributedOutput.get(), true);
+    }
+
+    double batchTime()
+    {
+        m_file.write(m_batch);
+        return millisecondsOf([&] {
+            m_viewModel.pollTail();
+            m_view.show(m_viewModel.attributedOutput.get(), true);
+        });
+    }
+
+private:
+    Model m_model;
+    QByteArray m_batch;
+    QFile m_file;
+    LogViewModel m_viewModel{m_model.defaults, m_model.center};
+    OwnView m_view;
+};
+
+void compareTailBatches(RatioTable& table)
+{
+    const QByteArray batch = generatedLines(100);
+    FollowedLog large(generatedLines(1'000'000), batch);
+    FollowedLog small(generatedLines(17'000), batch);
+    table.add(
+        QStringLiteral("tail batch of 100 lines at 1,000,000 | at 17,000"),
+        comparePairs([&] { return large.batchTime(); }, [&] { return small.batchTime(); }, 51),
+        1.1);
+}
+
+double openAndShow(const Model& model, OwnView& view, const QByteArray& bytes)
+{
+    return millisecondsOf([&] { view.show(model.styled(linesOf(bytes)), true); });
+}
+
+void compareScripts(RatioTable& table)
+{
+    const Model model;
+    OwnView view;
+    const QByteArray ascii = generatedLog(kLogBytes);
+    const QByteArray french = generatedLog(kLogBytes, Prose::French);
+    const QByteArray chinese = generatedLog(kLogBytes, Prose::Chinese);
+    const auto usual = [&] {
+        return openAndShow(model, view, ascii);
+    };
+    table.add(QStringLiteral("a log all in French prose | the usual log"),
+              comparePairs([&] { return openAndShow(model, view, french); }, usual, 15), 1.5);
+    table.add(QStringLiteral("a log all in Chinese | the usual log"),
+              comparePairs([&] { return openAndShow(model, view, chinese); }, usual, 15), 3);
+
+    QByteArray oneLine = ascii;
+    oneLine.replace('\n', ' ');
+    const auto showOneLine = [&] {
+        return millisecondsOf([&] {
+            view.show(model.styled(linesOf(oneLine)), true);
+            view.scrollToTopAndBack();
+        });
+    };
+    const auto showLines = [&] {
+        return millisecondsOf([&] {
+            view.show(model.styled(linesOf(ascii)), true);
+            view.scrollToTopAndBack();
+        });
+    };
+    table.add(QStringLiteral("one line of 2 MiB: open, paint, to top and back | usual log"),
+              comparePairs(showOneLine, showLines, 15), 2);
+}
+
+} // namespace
+
+void runViewRatios(RatioTable& table)
+{
+    compareKeyPress(table);
+    compareReplacing(table, true);
+    compareReplacing(table, false);
+    compareRewrapping(table);
+    compareTailBatches(table);
+    compareScripts(table);
+}
+
+} // namespace quillon::bench

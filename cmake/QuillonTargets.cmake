@@ -1,0 +1,24 @@
+# SPDX-License-Identifier: MIT
+# Compiler settings shared by every target, and the one way a layer is declared.
+
+add_library(quillon_options INTERFACE)
+target_compile_options(quillon_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_definitions(quillon_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QUILLON_SANITIZE)
+    target_compile_options(quillon_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(quillon_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# quillon_add_layer(NAME SOURCES a.cpp … HEADERS a.h … LINKS targets …)
+# A static library whose headers are included from the repository root and must compile alone.
+function(quillon_add_layer name)
+    cmake_parse_arguments(LAYER "" "" "SOURCES;HEADERS;LINKS" ${ARGN})
+    add_library(${name} STATIC ${LAYER_SOURCES})
+    target_sources(${name} PUBLIC FILE_SET HEADERS
+        BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${LAYER_HEADERS})
+    target_link_libraries(${name} PUBLIC ${LAYER_LINKS} PRIVATE quillon_options)
+endfunction()

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// Any bytes as a log, and their first line as the search: from bytes to lines to styled rows to
+// what print mode writes. Rows must stay whole and their runs must cover them.
+//
+//   CC=clang CXX=clang++ cmake -S . -B build/fuzz -G Ninja -DQUILLON_BUILD_FUZZ=ON \
+//       -DQUILLON_BUILD_TESTS=OFF -DQUILLON_SANITIZE=ON
+//   cmake --build build/fuzz --target quillon_fuzz_rows
+//   build/fuzz/quillon_fuzz_rows -max_len=4096 build/fuzz/corpus samples
+#include "app/json_row.h"
+#include "app/terminal_row.h"
+#include "model/decode_text.h"
+#include "model/line_builder.h"
+#include "platform/notification_center.h"
+#include "platform/user_defaults.h"
+#include "render/highlight_colors.h"
+#include "render/preference_keys.h"
+#include "render/styled_line.h"
+
+#include <QJsonDocument>
+
+#include <cstdlib>
+
+namespace {
+
+using namespace quillon;
+
+void require(bool condition)
+{
+    if (!condition) {
+        std::abort();
+    }
+}
+
+void checkRuns(const AttributedRow& row)
+{
+    qsizetype end = 0;
+    const std::vector<AttributeRun> runs = row.runs();
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        require(runs[i].start == end && runs[i].length > 0);
+        require(i == 0 || runs[i].attributes != runs[i - 1].attributes);
+        end = runs[i].end();
+    }
+    require(end == row.length() && row.string().size() == row.length());
+}
+
+void checkOutputs(const AttributedRow& row)
+{
+    QByteArray json;
+    appendJsonRow(row, json);
+    require(QJsonDocument::fromJson(json).isObject());
+    QByteArray text;
+    appendPlainRow(row, ControlCharacters::AsPictures, text);
+    require(!text.contains('\x1B') && text.endsWith('\n'));
+    appendTerminalRow(row, ColorDepth::Indexed256, ControlCharacters::AsPictures, text);
+}
+
+HighlightColors defaultColors()
+{
+    NotificationCenter center;
+    UserDefaults defaults(center, QStringLiteral("/nonexistent/Quillon.conf"));
+    defaults.registerDefaults(defaultPreferences());
+    return HighlightColors::read(defaults);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
+{
+    static const HighlightColors colors = defaultColors();
+    const QByteArrayView bytes(data, static_cast<qsizetype>(size));
+    LogLines lines;
+    appendParsedText(decodeText(bytes), 0, lines);
+    if (lines.isEmpty()) {
+        return 0;
+    }
+    const auto search = SearchExpression::make(lines[0].text());
+    const auto styler = std::make_shared<const LogRowStyler>(BaseAttributes(), colors, search);
+    for (const LogLine& line : lines) {
+        const AttributedRow row = styledLine(line, styler);
+        checkRuns(row);
+        checkOutputs(row);
+    }
+    return 0;
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "model/classify.h"
+
+#include "platform/ascii_search.h"
+
+#include <array>
+
+namespace quillon {
+
+namespace {
+
+// Only ASCII letters need lower-casing: the one other character whose lower-case form holds an
+// ASCII letter of the literals is U+0130, which becomes "i" and a combining dot, and no literal
+// ends in "i". Searching the text as it is, eight units at a time, took 1.4 ms for 2 MiB of log
+// where lower-casing each line and searching the copy took 45, and one automaton for all
+// literals 5.
+const AsciiSearch& searchFor(LogSeverity severity)
+{
+    static const std::array kSearches{
+        AsciiSearch(QLatin1StringView("fatal error")), AsciiSearch(QLatin1StringView("error")),
+        AsciiSearch(QLatin1StringView("warning")),     AsciiSearch(QLatin1StringView("notice")),
+        AsciiSearch(QLatin1StringView("deprecated")),  AsciiSearch(QLatin1StringView("info")),
+        AsciiSearch(QLatin1StringView("debug")),
+    };
+    return kSearches[static_cast<std::size_t>(severity)];
+}
+
+bool contains(QStringView text, LogSeverity severity)
+{
+    return searchFor(severity).find(text) >= 0;
+}
+
+bool containsPhpFatal(QStringView text)
+{
+    static const AsciiSearch kSearch(QLatin1StringView("php fatal"));
+    return kSearch.find(text) >= 0;
+}
+
+} // namespace
+
+// "fatal error" is only looked for where "error" is found, which it contains; "php warning" not at
+// all, since "warning", which it contains, means the same.
+LogSeverity classify(QStringView text)
+{
+    if (contains(text, LogSeverity::Error)) {
+        const bool isFatal = contains(text, LogSeverity::Fatal) || containsPhpFatal(text);
+        return isFatal ? LogSeverity::Fatal : LogSeverity::Error;
+    }
+    if (containsPhpFatal(text)) {
+        return LogSeverity::Fatal;
+    }
+    for (const LogSeverity severity :
+         {LogSeverity::Warning, LogSeverity::Notice, LogSeverity::Deprecated, LogSeverity::Info,
+          LogSeverity::Debug}) {
+        if (contains(text, severity)) {
+            return severity;
+        }
+    }
+    return LogSeverity::Unknown;
+}
+
+} // namespace quillon

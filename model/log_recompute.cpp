@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "model/log_recompute.h"
+
+#include "render/highlight_colors.h"
+#include "render/status_text.h"
+#include "render/styled_line.h"
+
+namespace quillon {
+
+namespace {
+
+// Appends the rows of the shown lines to a copy of `output`. A search expression that turns out to
+// cost too much is replaced, for the whole pass, by the literal search.
+AttributedString appendShownLines(const AttributedString& output, const LogLines& lines,
+                                  const DisplayOptions& options, const UserDefaults& defaults)
+{
+    const HighlightColors colors = HighlightColors::read(defaults);
+    LineFilter filter = options.filter;
+    filter.search = SearchExpression::make(options.query);
+    for (;;) {
+        const auto styler =
+            std::make_shared<const LogRowStyler>(options.baseAttributes, colors, filter.search);
+        AttributedString extended = output;
+        for (const LogLine& line : lines) {
+            if (filter.allows(line)) {
+                extended.append(styledLine(line, styler));
+            }
+            if (filter.search && filter.search->isExhausted()) {
+                break;
+            }
+        }
+        if (!filter.search || !filter.search->isExhausted()) {
+            return extended;
+        }
+        filter.search = SearchExpression::makeLiteral(options.query);
+    }
+}
+
+} // namespace
+
+DisplayedLog rebuildDisplay(const LogLines& lines, const DisplayOptions& options,
+                            const UserDefaults& defaults)
+{
+    AttributedString output = appendShownLines(AttributedString(), lines, options, defaults);
+    const bool allFiltered = !lines.isEmpty() && output.isEmpty();
+    QString status = allFiltered ? allFilteredStatus(lines.size())
+                                 : countsStatus(lines.size(), output.rows().size());
+    return DisplayedLog{std::move(output), std::move(status)};
+}
+
+std::optional<DisplayedLog> extendDisplay(const AttributedString& output, const LogLines& newLines,
+                                          qint64 lineCount, const DisplayOptions& options,
+                                          const UserDefaults& defaults)
+{
+    AttributedString extended = appendShownLines(output, newLines, options, defaults);
+    if (extended.rows().size() == output.rows().size()) {
+        return std::nullopt;
+    }
+    QString status = countsStatus(lineCount, extended.lineFeedCount());
+    return DisplayedLog{std::move(extended), std::move(status)};
+}
+
+} // namespace quillon

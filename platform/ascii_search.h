@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLatin1StringView>
+#include <QStringView>
+
+#include <cstdint>
+#include <string>
+
+namespace quillon {
+
+// Finds an ASCII text in others without regard to the case of ASCII letters.
+class AsciiSearch {
+public:
+    // `needle` must be ASCII and not empty.
+    explicit AsciiSearch(QLatin1StringView needle);
+
+    // Where the first occurrence at or after `from` begins, in UTF-16 units; −1 where there is
+    // none.
+    [[nodiscard]] qsizetype find(QStringView text, qsizetype from = 0) const;
+
+    // Length of the needle, and so of what is found.
+    [[nodiscard]] qsizetype length() const { return static_cast<qsizetype>(m_lower.size()); }
+
+private:
+    // One unit of the needle in a form that takes two instructions to compare: bits that are to be
+    // set in the text's unit (the one that tells small letters from capitals), then the value.
+    struct Unit {
+        // Not char16_t, which clang 14 cannot combine with a vector of numbers.
+        std::uint16_t caseBit;
+        std::uint16_t value;
+    };
+    [[nodiscard]] static Unit unitOf(char16_t lower);
+    [[nodiscard]] static bool isUnit(char16_t unit, Unit wanted)
+    {
+        return static_cast<char16_t>(unit | wanted.caseBit) == wanted.value;
+    }
+    [[nodiscard]] bool isAt(const char16_t* units) const;
+
+    std::u16string m_lower;
+    Unit m_first;
+    Unit m_last;
+};
+
+} // namespace quillon

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "platform/debouncer.h"
+
+namespace quillon {
+
+Debouncer::Debouncer(std::chrono::milliseconds quietPeriod, std::function<void()> action)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    m_timer.setInterval(quietPeriod);
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, std::move(action));
+}
+
+void Debouncer::trigger()
+{
+    m_timer.start();
+}
+
+} // namespace quillon

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QHash>
+#include <QList>
+#include <QSettings>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+#include <utility>
+
+namespace quillon {
+
+class NotificationCenter;
+
+// Posted after a stored value has changed, whether through UserDefaults or in the settings file.
+inline constexpr QLatin1StringView kUserDefaultsDidChange{"Quillon.userDefaultsDidChange"};
+
+// The user's settings: stored values in the settings file, over registered defaults that are never
+// written. Reads never fail: what is missing reads as no text, false or 0, and a value of another
+// kind is converted. A settings file that cannot be read or written leaves the defaults in force
+// and keeps the values set since in memory. The notification centre must outlive the object.
+class UserDefaults {
+public:
+    using Table = QList<std::pair<QString, QVariant>>;
+
+    // The settings file of this user: $XDG_CONFIG_HOME/Quillon/Quillon.conf on Linux.
+    static QString standardFilePath();
+
+    explicit UserDefaults(NotificationCenter& center, const QString& filePath = standardFilePath());
+    UserDefaults(const UserDefaults&) = delete;
+    UserDefaults& operator=(const UserDefaults&) = delete;
+    ~UserDefaults();
+
+    // Adds values that count where nothing is stored. Registering the same table again is harmless.
+    void registerDefaults(const Table& table);
+
+    // The stored value, else the registered one, else an invalid variant.
+    [[nodiscard]] QVariant objectForKey(const QString& key) const;
+    [[nodiscard]] std::optional<QString> stringForKey(const QString& key) const;
+    // Text reads as true when it is "true", "yes" (in any case) or a number other than 0.
+    [[nodiscard]] bool boolForKey(const QString& key) const;
+    // Text reads as the number that it begins with, 0 when there is none.
+    [[nodiscard]] double doubleForKey(const QString& key) const;
+
+    // Stores a value and posts kUserDefaultsDidChange. The file is written by the event loop.
+    void setObject(const QVariant& value, const QString& key);
+    void removeObject(const QString& key);
+
+private:
+    void watchFile();
+    void reloadAfterOutsideChange();
+    [[nodiscard]] QHash<QString, QVariant> readStored() const;
+
+    NotificationCenter& m_center;
+    QSettings m_settings;
+    QHash<QString, QVariant> m_stored;
+    QHash<QString, QVariant> m_registered;
+    QFileSystemWatcher m_watcher;
+};
+
+} // namespace quillon

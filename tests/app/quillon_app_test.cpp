@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "app/quillon_app.h"
+#include "model/notification_names.h"
+#include "render/preference_keys.h"
+#include "tests/support/spin_until.h"
+#include "tests/support/temporary_folder.h"
+#include "ui/content_view.h"
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileOpenEvent>
+#include <QMimeData>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+// The shared state reads and writes the settings of whoever runs the program; in a test, of nobody.
+class PrivateSettings : public ::testing::Environment {
+public:
+    void SetUp() override
+    {
+        m_folder = std::make_unique<TemporaryFolder>();
+        qputenv("XDG_CONFIG_HOME", m_folder->path(QString()).toUtf8());
+    }
+
+private:
+    std::unique_ptr<TemporaryFolder> m_folder;
+};
+
+[[maybe_unused]] const auto* const kPrivateSettings =
+    ::testing::AddGlobalTestEnvironment(new PrivateSettings);
+
+class QuillonAppTest : public ::testing::Test {
+protected:
+    [[nodiscard]] static MainWindow& mainWindow()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget* const window : windows) {
+            if (auto* const main = qobject_cast<MainWindow*>(window)) {
+                return *main;
+            }
+        }
+        throw std::runtime_error("no main window");
+    }
+
+    TemporaryFolder folder;
+    QuillonApp app{*qApp};
+};
+
+TEST_F(QuillonAppTest, TheViewModelIsOneForTheWholeProcess)
+{
+    EXPECT_EQ(&sharedLogViewModel(), &sharedLogViewModel());
+    EXPECT_EQ(&sharedLogViewModel(), &sharedState().viewModel);
+}
+
+TEST_F(QuillonAppTest, EveryPreferenceHasItsDefaultOnceItIsBuilt)
+{
+    for (const auto& [key, value] : defaultPreferences()) {
+        EXPECT_EQ(sharedState().defaults.objectForKey(key), value) << key.toStdString();
+    }
+}
+
+TEST_F(QuillonAppTest, TheProgramHasAnIcon)
+{
+    EXPECT_FALSE(QApplication::windowIcon().pixmap(64, 64).isNull());
+}
+
+TEST_F(QuillonAppTest, TheOpenCommandPostsItsNotificationOnceAlsoWithoutALog)
+{
+    int posts = 0;
+    const Subscription watch =
+        sharedState().notifications.observe(kCmdOpenLog, [&posts] { ++posts; });
+    app.run(MenuCommand::OpenLog);
+    EXPECT_EQ(posts, 1);
+}
+
+TEST_F(QuillonAppTest, AFileThatTheDesktopHandsOverIsOpened)
+{
+    const QString path = folder.write(QStringLiteral("handed.log"), "x\n");
+    QFileOpenEvent event(path);
+    QCoreApplication::sendEvent(qApp, &event);
+    EXPECT_TRUE(spinUntil([&] { return sharedLogViewModel().path.get() == path; }));
+}
+
+TEST_F(QuillonAppTest, TheWindowsTitleNamesTheOpenFile)
+{
+    sharedLogViewModel().path.set(QStringLiteral("/var/log/debug.log"));
+    EXPECT_EQ(mainWindow().windowTitle(), QStringLiteral("debug.log — Quillon"));
+    sharedLogViewModel().path.set(std::nullopt);
+    EXPECT_EQ(mainWindow().windowTitle(), QStringLiteral("Quillon"));
+}
+
+TEST_F(QuillonAppTest, FilesDroppedOnTheWindowAreOpenedAndTheLastOneStays)
+{
+    const QString first = folder.write(QStringLiteral("1.log"), "1\n");
+    const QString last = folder.write(QStringLiteral("2.log"), "2\n");
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(first), QUrl::fromLocalFile(last)});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&mainWindow(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&mainWindow(), &drop);
+    EXPECT_TRUE(spinUntil([&] { return sharedLogViewModel().path.get() == last; }));
+}
+
+TEST_F(QuillonAppTest, ADropOfWebAddressesIsNotTaken)
+{
+    QMimeData data;
+    data.setUrls({QUrl(QStringLiteral("https://example.org/debug.log"))});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(&mainWindow(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(QuillonAppTest, ClosingTheMainWindowStopsPollingWithoutTurningFollowingOff)
+{
+    LogViewModel& viewModel = sharedLogViewModel();
+    app.presentMainWindow();
+    viewModel.followTail.set(true);
+    viewModel.openLog(QUrl::fromLocalFile(folder.write(QStringLiteral("f.log"), "x\n")));
+    ASSERT_TRUE(viewModel.pollTimer);
+    app.run(MenuCommand::CloseWindow);
+    EXPECT_FALSE(mainWindow().isVisible());
+    EXPECT_FALSE(viewModel.pollTimer);
+    EXPECT_TRUE(viewModel.followTail.get());
+    viewModel.followTail.set(false);
+}
+
+TEST_F(QuillonAppTest, AMainWindowThatWasClosedComesBackWhenAFileIsHandedOver)
+{
+    app.presentMainWindow();
+    app.run(MenuCommand::CloseWindow);
+    app.presentMainWindow();
+    EXPECT_TRUE(mainWindow().isVisible());
+}
+
+TEST_F(QuillonAppTest, FindingGivesTheSearchFieldTheKeyboard)
+{
+    app.presentMainWindow();
+    app.run(MenuCommand::Find);
+    EXPECT_EQ(mainWindow().focusWidget()->accessibleName(), QStringLiteral("Recherche"));
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "tests/model/view_model_fixture.h"
+#include "tests/support/log_lines.h"
+
+namespace quillon {
+namespace {
+
+class RecomputeSearch : public ViewModelTest {
+protected:
+    QStringList found(const QString& query, const QStringList& texts)
+    {
+        model().query.set(query);
+        model().lines.set(logLines(texts));
+        model().recompute();
+        return shown();
+    }
+};
+
+TEST_F(RecomputeSearch, AQueryWithSlashesShowsTheSameAsOneWithout)
+{
+    const QStringList texts{QStringLiteral("a Foo"), QStringLiteral("bar"), QStringLiteral("FOOD")};
+    const QStringList expected{QStringLiteral("a Foo"), QStringLiteral("FOOD")};
+    EXPECT_EQ(found(QStringLiteral("/FOO/"), texts), expected);
+    EXPECT_EQ(found(QStringLiteral("foo"), texts), expected);
+}
+
+TEST_F(RecomputeSearch, ASlashAloneShowsLinesWithASlash)
+{
+    EXPECT_EQ(found(QStringLiteral("/"), {QStringLiteral("a/b"), QStringLiteral("ab")}),
+              QStringList{QStringLiteral("a/b")});
+}
+
+TEST_F(RecomputeSearch, AQueryWithOneSlashKeepsIt)
+{
+    EXPECT_EQ(found(QStringLiteral("/abc"), {QStringLiteral("x/ABC"), QStringLiteral("abc")}),
+              QStringList{QStringLiteral("x/ABC")});
+}
+
+TEST_F(RecomputeSearch, TwoSlashesAloneAreSearchedForAsTheyAre)
+{
+    EXPECT_EQ(found(QStringLiteral("//"), {QStringLiteral("a//b"), QStringLiteral("a/b")}),
+              QStringList{QStringLiteral("a//b")});
+}
+
+TEST_F(RecomputeSearch, ASpaceShowsOnlyLinesWithASpace)
+{
+    EXPECT_EQ(found(QStringLiteral(" "), {QStringLiteral("a b"), QStringLiteral("ab")}),
+              QStringList{QStringLiteral("a b")});
+}
+
+TEST_F(RecomputeSearch, AnInvalidExpressionShowsTheLinesThatHoldIt)
+{
+    EXPECT_EQ(found(QStringLiteral("["), {QStringLiteral("a[0]"), QStringLiteral("a")}),
+              QStringList{QStringLiteral("a[0]")});
+}
+
+TEST_F(RecomputeSearch, ALineNumberAloneShowsNoLine)
+{
+    const QStringList texts(50, QStringLiteral("text"));
+    EXPECT_TRUE(found(QStringLiteral("42"), texts).isEmpty());
+    EXPECT_EQ(status(), QStringLiteral("Lignes: 50 • Affichées: 0 (filtrées)"));
+}
+
+TEST_F(RecomputeSearch, ADotMatchesAnyCharacter)
+{
+    EXPECT_EQ(found(QStringLiteral("a.c"), {QStringLiteral("abc"), QStringLiteral("ac")}),
+              QStringList{QStringLiteral("abc")});
+}
+
+TEST_F(RecomputeSearch, AnExpressionThatCostsTooMuchIsSearchedForAsItIs)
+{
+    const QString costly = QString(60, u'a') + u'b';
+    const QString literal = QStringLiteral("see (A+)+$ here");
+    EXPECT_EQ(
+        found(QStringLiteral("(a+)+$"), {QStringLiteral("a match: a"), costly, literal, costly}),
+        QStringList{literal});
+    EXPECT_EQ(status(), QStringLiteral("Lignes: 4 • Affichées: 1"));
+}
+
+TEST_F(RecomputeSearch, AnExpressionThatCostsTooMuchHighlightsItsText)
+{
+    const QString costly = QString(60, u'a') + u'b';
+    found(QStringLiteral("(a+)+$"), {costly, QStringLiteral("(a+)+$")});
+    const auto runs = model().attributedOutput.get().rows()[0].runs();
+    EXPECT_TRUE(std::any_of(runs.begin(), runs.end(), [](const AttributeRun& run) {
+        return run.start == 2 && run.length == 6 && run.attributes.background;
+    }));
+}
+
+TEST_F(RecomputeSearch, AnExpressionThatCostsTooMuchIsSearchedForAsItIsInNewLinesToo)
+{
+    found(QStringLiteral("(a+)+$"), {QStringLiteral("a")});
+    const LogLines added = logLines({QString(60, u'a') + u'b', QStringLiteral("(a+)+$")}, 1);
+    model().lines.mutate([&added](LogLines& all) { all.append(added); });
+    model().recompute(added);
+    EXPECT_EQ(shown(), (QStringList{QStringLiteral("a"), QStringLiteral("(a+)+$")}));
+}
+
+TEST_F(RecomputeSearch, ANewQueryShowsAfterAWhile)
+{
+    open("foo\nbar\n");
+    model().query.set(QStringLiteral("bar"));
+    EXPECT_TRUE(spinUntil([this] { return shown() == QStringList{QStringLiteral("bar")}; }));
+    EXPECT_EQ(status(), QStringLiteral("Lignes: 2 • Affichées: 1"));
+}
+
+} // namespace
+} // namespace quillon

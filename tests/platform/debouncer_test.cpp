@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "platform/debouncer.h"
+#include "tests/support/spin_until.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(Debouncer, MakesNoCallWithoutATrigger)
+{
+    int calls = 0;
+    const Debouncer debouncer(1ms, [&calls] { ++calls; });
+    spinFor(20ms);
+    EXPECT_EQ(calls, 0);
+    EXPECT_FALSE(debouncer.isPending());
+}
+
+TEST(Debouncer, DoesNotCallBeforeTheEventLoopRuns)
+{
+    int calls = 0;
+    Debouncer debouncer(0ms, [&calls] { ++calls; });
+    debouncer.trigger();
+    EXPECT_EQ(calls, 0);
+    EXPECT_TRUE(debouncer.isPending());
+}
+
+TEST(Debouncer, MakesOneCallForABurst)
+{
+    int calls = 0;
+    Debouncer debouncer(10ms, [&calls] { ++calls; });
+    for (int i = 0; i < 5; ++i) {
+        debouncer.trigger();
+    }
+    ASSERT_TRUE(spinUntil([&calls] { return calls > 0; }));
+    spinFor(40ms);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(Debouncer, CallsAgainAfterANewTrigger)
+{
+    int calls = 0;
+    Debouncer debouncer(1ms, [&calls] { ++calls; });
+    debouncer.trigger();
+    ASSERT_TRUE(spinUntil([&calls] { return calls == 1; }));
+    debouncer.trigger();
+    EXPECT_TRUE(spinUntil([&calls] { return calls == 2; }));
+}
+
+TEST(Debouncer, IsNotPendingOnceItHasCalled)
+{
+    int calls = 0;
+    Debouncer debouncer(1ms, [&calls] { ++calls; });
+    debouncer.trigger();
+    ASSERT_TRUE(spinUntil([&calls] { return calls == 1; }));
+    EXPECT_FALSE(debouncer.isPending());
+}
+
+TEST(Debouncer, MayBeTriggeredFromItsOwnCall)
+{
+    int calls = 0;
+    std::unique_ptr<Debouncer> debouncer;
+    debouncer = std::make_unique<Debouncer>(1ms, [&] {
+        if (++calls < 3) {
+            debouncer->trigger();
+        }
+    });
+    debouncer->trigger();
+    EXPECT_TRUE(spinUntil([&calls] { return calls == 3; }));
+}
+
+TEST(Debouncer, MakesNoCallAfterItsEnd)
+{
+    int calls = 0;
+    auto debouncer = std::make_unique<Debouncer>(1ms, [&calls] { ++calls; });
+    debouncer->trigger();
+    debouncer.reset();
+    spinFor(20ms);
+    EXPECT_EQ(calls, 0);
+}
+
+} // namespace
+} // namespace quillon

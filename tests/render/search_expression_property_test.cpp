@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "model/decode_text.h"
+#include "model/line_enumeration.h"
+#include "render/search_expression.h"
+#include "tests/support/printing.h"
+#include "tests/support/random_text.h"
+#include "tests/support/test_data.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+// Checks what a search says of a text against the regular expression engine alone.
+void expectLikeTheEngine(const QString& pattern, const QString& text)
+{
+    const auto engine = RegularExpression::compile(pattern, CaseSensitivity::Insensitive);
+    ASSERT_NE(engine, nullptr) << qPrintable(pattern);
+    std::vector<TextRange> expected = engine->allMatches(text);
+    std::erase_if(expected, [](const TextRange& range) { return range.length == 0; });
+    const auto search = SearchExpression::make(pattern);
+    ASSERT_EQ(search->matches(text), engine->hasMatch(text))
+        << qPrintable(pattern) << " in " << qPrintable(text);
+    ASSERT_EQ(search->rangesIn(text), expected)
+        << qPrintable(pattern) << " in " << qPrintable(text);
+}
+
+const QStringList& unusualPieces()
+{
+    static const QStringList pieces{
+        QStringLiteral("s"),      QStringLiteral("S"),      QStringLiteral("ss"),
+        QStringLiteral("k"),      QStringLiteral("i"),      QStringLiteral("f"),
+        QStringLiteral("fi"),     QStringLiteral("st"),     QStringLiteral("n"),
+        QStringLiteral("'"),      QStringLiteral("a"),      QStringLiteral("h"),
+        QStringLiteral("j"),      QStringLiteral("ß"),      QStringLiteral("\u1E9E"),
+        QStringLiteral("ſ"),      QStringLiteral("\u212A"), QStringLiteral("\u0130"),
+        QStringLiteral("ı"),      QStringLiteral("ﬁ"),      QStringLiteral("ﬃ"),
+        QStringLiteral("ﬆ"),      QStringLiteral("\u0149"), QStringLiteral("\u01F0"),
+        QStringLiteral("\u1E96"), QStringLiteral("\u1E9A"), QStringLiteral("\u0307"),
+        QStringLiteral("é"),      QStringLiteral("日"),     QStringLiteral("🌞"),
+        QStringLiteral(" "),      QStringLiteral("\u02BE"), QString(),
+    };
+    return pieces;
+}
+
+TEST(SearchExpressionProperty, APlainWordFindsWhatTheEngineFindsInUnusualTexts)
+{
+    const QStringList words{
+        QStringLiteral("s"),  QStringLiteral("ss"),  QStringLiteral("S"),  QStringLiteral("k"),
+        QStringLiteral("i"),  QStringLiteral("fi"),  QStringLiteral("ff"), QStringLiteral("ffi"),
+        QStringLiteral("st"), QStringLiteral("ns"),  QStringLiteral("a"),  QStringLiteral("h"),
+        QStringLiteral("j"),  QStringLiteral("sk"),  QStringLiteral("is"), QStringLiteral("sss"),
+        QStringLiteral(" "),  QStringLiteral("s s"), QStringLiteral("'n"), QStringLiteral("hi"),
+    };
+    RandomText random(31);
+    for (int i = 0; i < 30'000 && !testing::Test::HasFailure(); ++i) {
+        expectLikeTheEngine(words[random.below(std::uint32_t(words.size()))],
+                            random.join(unusualPieces(), 12));
+    }
+}
+
+TEST(SearchExpressionProperty, EveryPlainCharacterFindsWhatTheEngineFindsInEveryCharacter)
+{
+    QString everything;
+    for (int unit = 1; unit <= 0xFFFF; ++unit) {
+        everything += QChar(unit);
+    }
+    QString ascii = everything.left(0x7F);
+    static const QString kMeta = QStringLiteral("\\^$.|?*+()[]{}");
+    for (char16_t character = 0x20; character < 0x7F; ++character) {
+        if (!kMeta.contains(QChar(character))) {
+            expectLikeTheEngine(QString(QChar(character)), everything);
+            expectLikeTheEngine(QString(QChar(character)), ascii);
+        }
+    }
+}
+
+TEST(SearchExpressionProperty, RandomWordsFindWhatTheEngineFindsInPlainTexts)
+{
+    const QStringList pieces{
+        QStringLiteral("a"),  QStringLiteral("B"), QStringLiteral("ab"), QStringLiteral("-"),
+        QStringLiteral("_"),  QStringLiteral(" "), QStringLiteral("#"),  QStringLiteral("&&"),
+        QStringLiteral("~"),  QStringLiteral("@"), QStringLiteral("/x"), QStringLiteral("é"),
+        QStringLiteral("日"),
+    };
+    RandomText random(32);
+    for (int i = 0; i < 30'000 && !testing::Test::HasFailure(); ++i) {
+        const QString word = random.join(pieces, 4);
+        const bool isDelimited = word.startsWith(u'/') && word.endsWith(u'/');
+        if (!word.isEmpty() && !isDelimited) {
+            expectLikeTheEngine(word, random.join(pieces, 60));
+        }
+    }
+}
+
+TEST(SearchExpressionProperty, WordsFindWhatTheEngineFindsInGenuineLogs)
+{
+    for (const QString& name : testDataNames()) {
+        const QString text = decodeText(testData(name));
+        LineEnumeration enumeration(text);
+        while (const auto line = enumeration.next()) {
+            for (const char16_t* word : {u"e", u"php", u"ERROR", u"array", u" in /var", u"12:"}) {
+                expectLikeTheEngine(QString::fromUtf16(word), line->toString());
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace quillon

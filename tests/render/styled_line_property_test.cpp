@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "model/decode_text.h"
+#include "model/line_enumeration.h"
+#include "render/styled_line.h"
+#include "tests/support/log_lines.h"
+#include "tests/support/printing.h"
+#include "tests/support/random_text.h"
+#include "tests/support/test_data.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+HighlightColors distinctColors()
+{
+    const auto shade = [](int i) {
+        return Color::rgb(0.1 * i, 0.2, 0.3);
+    };
+    return HighlightColors{.severity = {shade(0), shade(1), shade(2), shade(3), shade(4), shade(5),
+                                        shade(6), Color::system(SystemColor::Text)},
+                           .date = shade(8),
+                           .arrayDump = shade(9)};
+}
+
+std::unique_ptr<RegularExpression> expressionOf(const QString& pattern,
+                                                CaseSensitivity caseSensitivity)
+{
+    return RegularExpression::compile(pattern, caseSensitivity);
+}
+
+// Paints a row character by character, one rule after the other.
+class PlainPainter {
+public:
+    PlainPainter(const LogLine& line, const QString& query)
+        : m_row(QString::number(line.number()) + u'\t' + line.text() + u'\n'),
+          m_units(std::size_t(m_row.size()))
+    {
+        const HighlightColors colors = distinctColors();
+        setForeground({0, m_row.size()}, colors.severity[std::size_t(line.severity())]);
+        paintTimestamp(colors.date);
+        setForeground({0, m_row.indexOf(u'\t')}, Color::system(SystemColor::SecondaryLabel));
+        static const auto dump =
+            expressionOf(QStringLiteral(R"((?:\bArray\b\s*\(|\bprint_r\s*\(|\bvar_dump\s*\())"),
+                         CaseSensitivity::Insensitive);
+        if (dump->hasMatch(m_row)) {
+            setForeground({0, m_row.size()}, colors.arrayDump);
+        }
+        for (const TextRange& match : matchesOf(query)) {
+            for (qsizetype at = match.start; at < std::min(match.end(), m_row.size()); ++at) {
+                m_units[std::size_t(at)].foreground = Color::system(SystemColor::Text);
+                m_units[std::size_t(at)].background =
+                    Color::system(SystemColor::SelectedTextBackground, 0.35);
+            }
+        }
+    }
+
+    // One run per stretch of equal units.
+    [[nodiscard]] std::vector<AttributeRun> runs() const
+    {
+        std::vector<AttributeRun> runs;
+        for (std::size_t at = 0; at < m_units.size(); ++at) {
+            if (runs.empty() || !(runs.back().attributes == m_units[at])) {
+                runs.push_back({qsizetype(at), 0, m_units[at]});
+            }
+            ++runs.back().length;
+        }
+        return runs;
+    }
+
+private:
+    void setForeground(const TextRange& range, const Color& color)
+    {
+        for (qsizetype at = range.start; at < range.end(); ++at) {
+            m_units[std::size_t(at)].foreground = color;
+        }
+    }
+
+    void paintTimestamp(const Color& date)
+    {
+        static const auto timestamp =
+            expressionOf(QStringLiteral(R"(\[\d{2}-[A-Za-z]{3}-\d{4} (\d{2}:\d{2}:\d{2}) UTC\])"),
+                         CaseSensitivity::Sensitive);
+        static const auto time =
+            expressionOf(QStringLiteral(R"(\d{2}:\d{2}:\d{2})"), CaseSensitivity::Sensitive);
+        const auto found = timestamp->firstMatch(m_row);
+        if (!found) {
+            return;
+        }
+        setForeground(*found, date);
+        const TextRange bold = time->firstMatch(m_row).value();
+        for (qsizetype at = bold.start; at < bold.end(); ++at) {
+            m_units[std::size_t(at)].weight = FontWeight::Bold;
+        }
+    }
+
+    [[nodiscard]] std::vector<TextRange> matchesOf(const QString& query) const
+    {
+        if (query.isEmpty()) {
+            return {};
+        }
+        const bool isDelimited = query.size() >= 2 && query.front() == u'/' && query.back() == u'/';
+        const QString pattern = isDelimited ? query.mid(1, query.size() - 2) : query;
+        if (const auto expression = expressionOf(pattern, CaseSensitivity::Insensitive)) {
+            return expression->allMatches(m_row);
+        }
+        std::vector<TextRange> matches;
+        const QString lowered = m_row.toLower();
+        const QString wanted = query.toLower();
+        for (qsizetype at = lowered.indexOf(wanted); at >= 0;
+             at = lowered.indexOf(wanted, at + wanted.size())) {
+            matches.push_back({at, wanted.size()});
+        }
+        return matches;
+    }
+
+    QString m_row;
+    std::vector<RunAttributes> m_units;
+};
+
+void expectLikeThePainter(const LogLine& line, const QString& query)
+{
+    const auto styler = std::make_shared<LogRowStyler>(BaseAttributes(), distinctColors(),
+                                                       SearchExpression::make(query));
+    ASSERT_EQ(styledLine(line, styler).runs(), PlainPainter(line, query).runs())
+        << qPrintable(line.text()) << " searched for " << qPrintable(query);
+}
+
+const QStringList& queries()
+{
+    static const QStringList list{
+        QString(),
+        QStringLiteral("a"),
+        QStringLiteral("1"),
+        QStringLiteral("/\\d+/"),
+        QStringLiteral("x*"),
+        QStringLiteral("."),
+        QStringLiteral("\\s"),
+        QStringLiteral("["),
+        QStringLiteral("("),
+        QStringLiteral("//"),
+        QStringLiteral("utc]"),
+        QStringLiteral("^\\d+\\t"),
+        QStringLiteral("é"),
+        QStringLiteral("ss"),
+        QStringLiteral("a("),
+        QStringLiteral("$"),
+        QStringLiteral("\\n"),
+        QStringLiteral("(?=a)"),
+        QStringLiteral("error"),
+        QStringLiteral("10:15:"),
+        QStringLiteral("/[/"),
+    };
+    return list;
+}
+
+TEST(StyledLineProperty, AgreesWithAPlainPainterOnRandomLines)
+{
+    const QStringList pieces{
+        QStringLiteral("[05-Mar-2024 10:15:42 UTC]"),
+        QStringLiteral("12:00:00"),
+        QStringLiteral("Array ("),
+        QStringLiteral("print_r("),
+        QStringLiteral("PHP Fatal error: "),
+        QStringLiteral("warning"),
+        QStringLiteral("notice "),
+        QStringLiteral("a"),
+        QStringLiteral("é"),
+        QStringLiteral("ß"),
+        QStringLiteral("\u0130"),
+        QStringLiteral("🌞"),
+        QStringLiteral("["),
+        QStringLiteral("]"),
+        QStringLiteral("("),
+        QStringLiteral("//"),
+        QStringLiteral("\t"),
+        QStringLiteral("\f"),
+        QStringLiteral("1"),
+        QStringLiteral(" "),
+        QString(),
+    };
+    RandomText random(41);
+    for (int i = 0; i < 30'000 && !testing::Test::HasFailure(); ++i) {
+        const qint64 number = qint64{random.below(200'000)} * (1 + random.below(100'000));
+        expectLikeThePainter(logLine(random.join(pieces, 8), number),
+                             queries()[random.below(std::uint32_t(queries().size()))]);
+    }
+}
+
+TEST(StyledLineProperty, AgreesWithAPlainPainterOnGenuineLogs)
+{
+    for (const QString& name : testDataNames()) {
+        LogLines lines;
+        appendParsedText(decodeText(testData(name)), 0, lines);
+        for (const LogLine& line : lines) {
+            const QString& query = queries()[line.number() % queries().size()];
+            expectLikeThePainter(line, query);
+        }
+    }
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,106 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Asks running programs what a screen reader asks, over the accessibility bus.
+
+Each line of standard input is a request in JSON, each answer one line of standard output:
+
+  {"request": "tree", "pid": 12, "window": "Aide"}   the window's tree, or null while it is not there
+  {"request": "listen"}                              from here on, changes of state are collected
+  {"request": "events", "pid": 12}                   what was collected for that program
+
+Trees of lists and tables end at their root: those of a file dialog hold whole folders.
+"""
+import json
+import sys
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+ENDS = {Atspi.Role.LIST, Atspi.Role.TABLE, Atspi.Role.TREE, Atspi.Role.TREE_TABLE}
+
+collected = []
+
+
+def application(pid):
+    """The program's root, without the library's cache: an answer is what the program says now."""
+    desktop = Atspi.get_desktop(0)
+    for index in range(desktop.get_child_count()):
+        candidate = desktop.get_child_at_index(index)
+        if candidate is not None and candidate.get_process_id() == pid:
+            candidate.set_cache_mask(Atspi.Cache.NONE)
+            return candidate
+    return None
+
+
+def children(node):
+    found = (node.get_child_at_index(index) for index in range(node.get_child_count()))
+    return [child for child in found if child is not None]
+
+
+def described(node):
+    box = node.get_extents(Atspi.CoordType.SCREEN)
+    interfaces = node.get_interfaces()
+    return {
+        "role": node.get_role_name(),
+        "name": node.get_name(),
+        "description": node.get_description(),
+        "states": [state.value_nick for state in node.get_state_set().get_states()],
+        "box": [box.x, box.y, box.width, box.height],
+        "text": Atspi.Text.get_text(node, 0, -1) if "Text" in interfaces else None,
+        "value": Atspi.Value.get_current_value(node) if "Value" in interfaces else None,
+        "children": [] if node.get_role() in ENDS else [described(c) for c in children(node)],
+    }
+
+
+def tree(request):
+    root = application(request["pid"])
+    for window in children(root) if root is not None else []:
+        if window.get_name() == request["window"]:
+            return described(window)
+    return None
+
+
+def collect(event):
+    source = event.source
+    if source is not None:
+        collected.append((source.get_process_id(), event.type, event.detail1, source.get_name()))
+
+
+def listen(_request):
+    listener = Atspi.EventListener.new(collect)
+    listener.register("object:state-changed")
+    return True
+
+
+def events(request):
+    return [
+        {"type": kind, "detail": detail, "name": name}
+        for pid, kind, detail, name in collected
+        if pid == request["pid"]
+    ]
+
+
+def answer(_source, _condition, loop):
+    line = sys.stdin.readline()
+    if not line:
+        loop.quit()
+        return False
+    request = json.loads(line)
+    try:
+        result = {"tree": tree, "listen": listen, "events": events}[request["request"]](request)
+    except GLib.Error:
+        # The program is starting or ending; whoever asks waits and asks again.
+        result = None
+    print(json.dumps(result), flush=True)
+    return True
+
+
+def main():
+    loop = GLib.MainLoop()
+    GLib.io_add_watch(sys.stdin.fileno(), GLib.PRIORITY_DEFAULT, GLib.IO_IN | GLib.IO_HUP, answer, loop)
+    loop.run()
+
+
+main()

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "tests/window/desktop.h"
+
+#include "tests/support/spin_until.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+namespace {
+
+const QString kXprop = QStringLiteral("xprop");
+const QString kXdotool = QStringLiteral("xdotool");
+
+// `NAME = "value"` or `NAME: value`, as xprop prints it.
+QString propertyValue(const QByteArray& output)
+{
+    static const QRegularExpression expression(QStringLiteral("^[^:=]*[:=] *\"?(.*?)\"?\\n?$"),
+                                               QRegularExpression::DotMatchesEverythingOption);
+    return expression.match(QString::fromUtf8(output)).captured(1);
+}
+
+} // namespace
+
+Desktop::Desktop()
+{
+    // Not the user's: a program must neither find their settings nor their bus and desktop.
+    for (const char* const name : {"XDG_CURRENT_DESKTOP", "XDG_SESSION_TYPE", "WAYLAND_DISPLAY",
+                                   "DESKTOP_SESSION", "QT_QPA_PLATFORMTHEME", "XMODIFIERS"}) {
+        m_environment.remove(QString::fromLatin1(name));
+    }
+    QFile(m_folder.path(QString()))
+        .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_folder.path(QString()));
+    m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                         m_folder.path(QStringLiteral("config")));
+    m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    startScreen();
+    startBus();
+    startWindowManager();
+}
+
+QuillonProcess::Environment Desktop::variables() const
+{
+    QuillonProcess::Environment variables{
+        {QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb")},
+        {QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1")},
+        {QStringLiteral("QUILLON_APPEARANCE"), QStringLiteral("light")},
+        {QStringLiteral("XDG_CURRENT_DESKTOP"), QString()},
+        {QStringLiteral("QT_QPA_PLATFORMTHEME"), QString()},
+    };
+    for (const char* const name : {"DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR"}) {
+        const QString variable = QString::fromLatin1(name);
+        variables.append({variable, m_environment.value(variable)});
+    }
+    return variables;
+}
+
+QList<DesktopWindow> Desktop::windows() const
+{
+    const QString ids =
+        propertyValue(ask(kXprop, {QStringLiteral("-root"), QStringLiteral("-notype"),
+                                   QStringLiteral("_NET_CLIENT_LIST")}));
+    static const QRegularExpression kId(QStringLiteral("0x[0-9a-f]+"));
+    QList<DesktopWindow> windows;
+    for (const QRegularExpressionMatch& match : kId.globalMatch(ids)) {
+        const QString id = match.captured();
+        const QByteArray title = ask(kXdotool, {QStringLiteral("getwindowname"), id});
+        windows.append({id, QString::fromUtf8(title).chopped(title.endsWith('\n') ? 1 : 0)});
+    }
+    return windows;
+}
+
+QStringList Desktop::titles() const
+{
+    QStringList titles;
+    for (const DesktopWindow& window : windows()) {
+        titles.append(window.title);
+    }
+    return titles;
+}
+
+QString Desktop::activeTitle() const
+{
+    const QByteArray title =
+        ask(kXdotool, {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")});
+    return QString::fromUtf8(title).trimmed();
+}
+
+QString Desktop::windowTitled(const QString& title) const
+{
+    for (const DesktopWindow& window : windows()) {
+        if (window.title == title) {
+            return window.id;
+        }
+    }
+    return QString();
+}
+
+void Desktop::press(const QString& keys) const
+{
+    ask(kXdotool, {QStringLiteral("key"), keys});
+}
+
+void Desktop::type(const QString& text) const
+{
+    ask(kXdotool, {QStringLiteral("type"), text});
+}
+
+void Desktop::activate(const QString& windowId) const
+{
+    ask(kXdotool, {QStringLiteral("windowactivate"), QStringLiteral("--sync"), windowId});
+}
+
+void Desktop::resize(const QString& windowId, QSize size) const
+{
+    ask(kXdotool, {QStringLiteral("windowsize"), windowId, QString::number(size.width()),
+                   QString::number(size.height())});
+}
+
+QSize Desktop::size(const QString& windowId) const
+{
+    const QByteArray geometry =
+        ask(kXdotool, {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), windowId});
+    const auto number = [&geometry](const char* name) {
+        const QRegularExpression expression(
+            QStringLiteral("%1=(\\d+)").arg(QLatin1StringView(name)));
+        return expression.match(QString::fromLatin1(geometry)).captured(1).toInt();
+    };
+    return {number("WIDTH"), number("HEIGHT")};
+}
+
+QImage Desktop::picture(const QString& windowId) const
+{
+    return QImage::fromData(
+        ask(QStringLiteral("import"), {QStringLiteral("-silent"), QStringLiteral("-window"),
+                                       windowId, QStringLiteral("png:-")}));
+}
+
+QString Desktop::clipboard() const
+{
+    return QString::fromUtf8(
+        ask(QStringLiteral("xclip"),
+            {QStringLiteral("-o"), QStringLiteral("-selection"), QStringLiteral("clipboard")}));
+}
+
+void Desktop::startScreen()
+{
+    m_screen = std::make_unique<HelperProcess>(
+        QStringLiteral("Xvfb"),
+        QStringList{QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                    QStringLiteral("0"), QStringLiteral("1400x1000x24"),
+                    QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")},
+        m_environment);
+    m_environment.insert(QStringLiteral("DISPLAY"),
+                         QStringLiteral(":") + QString::fromLatin1(m_screen->readLine()));
+}
+
+void Desktop::startBus()
+{
+    m_bus = std::make_unique<HelperProcess>(
+        QStringLiteral("dbus-daemon"),
+        QStringList{QStringLiteral("--session"), QStringLiteral("--nofork"),
+                    QStringLiteral("--print-address=1"),
+                    QStringLiteral("--address=unix:path=") + m_folder.path(QStringLiteral("bus"))},
+        m_environment);
+    m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                         QString::fromLatin1(m_bus->readLine()));
+}
+
+void Desktop::startWindowManager()
+{
+    m_windowManager =
+        std::make_unique<HelperProcess>(QStringLiteral("openbox"), QStringList(), m_environment);
+    EXPECT_TRUE(spinUntil([this] {
+        return ask(kXprop, {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
+            .contains("0x");
+    })) << "the window manager does not come up";
+}
+
+QByteArray Desktop::ask(const QString& tool, const QStringList& arguments) const
+{
+    return outputOf(tool, arguments, m_environment);
+}
+
+int pixelsOfColor(const QImage& picture, const QColor& color)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            count += picture.pixel(x, y) == color.rgb() ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace quillon

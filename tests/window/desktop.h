@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tests/app/quillon_process.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/window/helper_process.h"
+
+#include <QColor>
+#include <QImage>
+#include <QList>
+#include <QProcessEnvironment>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+namespace quillon {
+
+// A window that the window manager shows.
+struct DesktopWindow {
+    QString id; // the window system's, as its tools take it
+    QString title;
+};
+
+// A desktop of its own for a suite of tests: a screen in memory, a window manager and a session
+// bus, none of which touches those of whoever runs the tests.
+class Desktop {
+public:
+    Desktop();
+
+    // What a program needs to come up here.
+    [[nodiscard]] QuillonProcess::Environment variables() const;
+    [[nodiscard]] const QProcessEnvironment& environment() const { return m_environment; }
+
+    // The windows on the screen, oldest first.
+    [[nodiscard]] QList<DesktopWindow> windows() const;
+    [[nodiscard]] QStringList titles() const;
+    // The title of the window that has the keyboard.
+    [[nodiscard]] QString activeTitle() const;
+    // The id of the window of that title, empty when there is none.
+    [[nodiscard]] QString windowTitled(const QString& title) const;
+
+    // Keys go to whatever has the keyboard, as from a real one: "ctrl+o", "Escape".
+    void press(const QString& keys) const;
+    void type(const QString& text) const;
+    // Brings the window to the front as a user does who clicks it in a task bar.
+    void activate(const QString& windowId) const;
+    // Asks the window manager for another size of the window's inside.
+    void resize(const QString& windowId, QSize size) const;
+    [[nodiscard]] QSize size(const QString& windowId) const;
+    // What the window looks like now.
+    [[nodiscard]] QImage picture(const QString& windowId) const;
+    [[nodiscard]] QString clipboard() const;
+
+private:
+    void startScreen();
+    void startBus();
+    void startWindowManager();
+    QByteArray ask(const QString& tool, const QStringList& arguments) const;
+
+    TemporaryFolder m_folder;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    std::unique_ptr<HelperProcess> m_screen;
+    std::unique_ptr<HelperProcess> m_bus;
+    std::unique_ptr<HelperProcess> m_windowManager;
+};
+
+// How many pixels of the picture have exactly that colour.
+int pixelsOfColor(const QImage& picture, const QColor& color);
+
+} // namespace quillon

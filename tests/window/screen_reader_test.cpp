@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/printing.h"
+#include "tests/support/spin_until.h"
+#include "tests/window/window_test.h"
+
+#include <algorithm>
+
+namespace quillon {
+namespace {
+
+const QString kOpen = QStringLiteral("Ouvrir un fichier de log");
+const QString kFollowToggle = QStringLiteral("Suivre en direct (tail)");
+const QString kWrap = QStringLiteral("Activer le retour à la ligne");
+const QString kTextSize = QStringLiteral("Taille du texte");
+const QString kDeprecated = QStringLiteral("Afficher les lignes PHP Deprecated");
+const QString kWarning = QStringLiteral("Afficher les lignes PHP Warning");
+const QString kNotice = QStringLiteral("Afficher les lignes PHP Notice");
+const QString kOnlyErrors = QStringLiteral("Afficher uniquement Fatal/Error");
+const QString kSearch = QStringLiteral("Recherche");
+const QString kClear = QStringLiteral("Vider le contenu");
+const QString kContent = QStringLiteral("Contenu du log");
+
+const QStringList kToolbar{kOpen,    kFollowToggle, kWrap,       kTextSize, kDeprecated,
+                           kWarning, kNotice,       kOnlyErrors, kSearch,   kClear};
+
+// The controls of the toolbar from left to right.
+QList<AccessibleNode> toolbarControls(const AccessibleNode& window)
+{
+    QList<AccessibleNode> controls;
+    for (const AccessibleNode& node : elementsOf(window)) {
+        if (kToolbar.contains(node.name) && node.is("focusable")) {
+            controls.append(node);
+        }
+    }
+    std::sort(controls.begin(), controls.end(), [](const auto& left, const auto& right) {
+        return left.box.left() < right.box.left();
+    });
+    return controls;
+}
+
+QStringList namesOf(const QList<AccessibleNode>& nodes)
+{
+    QStringList names;
+    for (const AccessibleNode& node : nodes) {
+        names.append(node.name);
+    }
+    return names;
+}
+
+class ScreenReading : public WindowTest {
+protected:
+    [[nodiscard]] QString focusedName() const
+    {
+        for (const AccessibleNode& node : elementsOf(mainWindow())) {
+            if (node.is("focused") && node.is("focusable")) {
+                return node.name;
+            }
+        }
+        return QString();
+    }
+    void pressUntilFocused(const QString& key, const QString& name)
+    {
+        desktop().press(key);
+        ASSERT_TRUE(spinUntil([&] { return focusedName() == name; }))
+            << qPrintable(key) << " leads to " << qPrintable(focusedName()) << " and not to "
+            << qPrintable(name);
+    }
+    [[nodiscard]] bool hasHeard(const char* type, int detail, const QString& name) const
+    {
+        const auto heard = screenReader().heard(running().process().processId());
+        return std::any_of(heard.begin(), heard.end(), [&](const AccessibleEvent& event) {
+            return event.type == QLatin1StringView(type) && event.detail == detail &&
+                   event.name == name;
+        });
+    }
+};
+
+TEST_F(ScreenReading, EveryToolbarControlIsNamedByItsTooltipInVisualOrder)
+{
+    startWithLog("a\n");
+    awaitRows(QStringLiteral("1\ta\n"));
+    EXPECT_EQ(namesOf(toolbarControls(mainWindow())), kToolbar);
+}
+
+TEST_F(ScreenReading, EveryToolbarControlSaysWhatItIs)
+{
+    startWithLog("a\n");
+    awaitRows(QStringLiteral("1\ta\n"));
+    QStringList roles;
+    for (const AccessibleNode& control : toolbarControls(mainWindow())) {
+        roles.append(control.role);
+    }
+    const QString button = QStringLiteral("push button");
+    const QString toggle = QStringLiteral("check box");
+    EXPECT_EQ(roles, (QStringList{button, toggle, toggle, QStringLiteral("slider"), toggle, toggle,
+                                  toggle, toggle, QStringLiteral("text"), button}));
+}
+
+TEST_F(ScreenReading, TogglesSayWhetherTheyAreOn)
+{
+    startWithLog("a\n");
+    awaitRows(QStringLiteral("1\ta\n"));
+    QStringList checked;
+    for (const AccessibleNode& control : toolbarControls(mainWindow())) {
+        if (control.is("checked")) {
+            checked.append(control.name);
+        }
+    }
+    EXPECT_EQ(checked, (QStringList{kWrap, kDeprecated, kWarning, kNotice}));
+}
+
+TEST_F(ScreenReading, WithNoFileOpenFollowAndClearSayThatTheyAreDisabled)
+{
+    start({}, kEmptyTitle);
+    ASSERT_TRUE(spinUntil([this] { return !window(kEmptyTitle).children.isEmpty(); }));
+    QStringList disabled;
+    for (const AccessibleNode& node : elementsOf(window(kEmptyTitle))) {
+        if (kToolbar.contains(node.name) && !node.is("enabled")) {
+            disabled.append(node.name);
+        }
+    }
+    EXPECT_EQ(disabled, (QStringList{kFollowToggle, kClear}));
+    EXPECT_EQ(status(kEmptyTitle), QStringLiteral("Aucun fichier ouvert"));
+}
+
+TEST_F(ScreenReading, TabGoesThroughTheControlsInVisualOrder)
+{
+    startWithLog("a\n");
+    awaitRows(QStringLiteral("1\ta\n"));
+    EXPECT_EQ(focusedName(), kContent);
+    for (const QString& name : kToolbar) {
+        pressUntilFocused(QStringLiteral("Tab"), name);
+    }
+    pressUntilFocused(QStringLiteral("Tab"), kContent);
+    pressUntilFocused(QStringLiteral("shift+Tab"), kClear);
+}
+
+TEST_F(ScreenReading, TheLogGivesItsRowsAsReadOnlyText)
+{
+    startWithLog("PHP Notice:  é 日本\nPHP Fatal error:  b\n");
+    awaitRows(QStringLiteral("1\tPHP Notice:  é 日本\n2\tPHP Fatal error:  b\n"));
+    const AccessibleNode log = element(mainWindow(), QStringLiteral("document frame"), kContent);
+    EXPECT_TRUE(log.is("read-only"));
+    EXPECT_TRUE(log.is("multi-line"));
+}
+
+TEST_F(ScreenReading, TheSpaceBarTurnsATogglesStateWhichIsAnnounced)
+{
+    startWithLog("PHP Warning:  a\nb\n");
+    awaitRows(QStringLiteral("1\tPHP Warning:  a\n2\tb\n"));
+    screenReader().listen();
+    for (const QString& name : {kOpen, kFollowToggle, kWrap, kTextSize, kDeprecated, kWarning}) {
+        pressUntilFocused(QStringLiteral("Tab"), name);
+    }
+    desktop().press(QStringLiteral("space"));
+    awaitRows(QStringLiteral("2\tb\n"));
+    EXPECT_TRUE(
+        spinUntil([this] { return hasHeard("object:state-changed:checked", 0, kWarning); }));
+    desktop().press(QStringLiteral("space"));
+    EXPECT_TRUE(
+        spinUntil([this] { return hasHeard("object:state-changed:checked", 1, kWarning); }));
+}
+
+TEST_F(ScreenReading, ThatAControlBecomesUsableIsAnnounced)
+{
+    const QString path = folder().write(kLog, "a\n");
+    start({}, kEmptyTitle);
+    ASSERT_TRUE(spinUntil([this] { return !window(kEmptyTitle).children.isEmpty(); }));
+    screenReader().listen();
+    QuillonProcess second({path}, desktop().variables());
+    EXPECT_EQ(second.run(), 0);
+    awaitActive(kLogTitle);
+    EXPECT_TRUE(spinUntil([this] {
+        return hasHeard("object:state-changed:enabled", 1, kFollowToggle) &&
+               hasHeard("object:state-changed:enabled", 1, kClear);
+    }));
+}
+
+TEST_F(ScreenReading, TheWindowCannotBeMadeSmallerThanItsContentsMinimum)
+{
+    startWithLog("a\n");
+    awaitRows(QStringLiteral("1\ta\n"));
+    const auto contentSize = [this] {
+        const AccessibleNode window = mainWindow();
+        return window.children.isEmpty() ? QSize() : window.children.constFirst().box.size();
+    };
+    desktop().resize(desktop().windowTitled(kLogTitle), QSize(300, 200));
+    ASSERT_TRUE(spinUntil([&] { return contentSize().width() < 1000; }));
+    EXPECT_TRUE(spinUntil([&] { return contentSize() == QSize(820, 520); }));
+}
+
+TEST_F(ScreenReading, EveryControlOfThePreferencesHasAName)
+{
+    startWithLog("a\n");
+    desktop().press(QStringLiteral("ctrl+comma"));
+    awaitActive(kPreferencesTitle);
+    ASSERT_TRUE(spinUntil([this] { return !window(kPreferencesTitle).children.isEmpty(); }));
+    QStringList names;
+    for (const AccessibleNode& node : elementsOf(window(kPreferencesTitle))) {
+        if (node.is("focusable")) {
+            names.append(node.name);
+        }
+    }
+    EXPECT_EQ(names,
+              (QStringList{QStringLiteral("Fatal / Error"), QStringLiteral("Warning (PHP Warning)"),
+                           QStringLiteral("Notice (PHP Notice)"), QStringLiteral("Deprecated"),
+                           QStringLiteral("Info"), QStringLiteral("Debug"),
+                           QStringLiteral("Horodatage (date/heure)"),
+                           QStringLiteral("Dump (array / var_dump)"),
+                           QStringLiteral("Retour à la ligne par défaut"),
+                           QStringLiteral("Taille de police par défaut"),
+                           QStringLiteral("Dossier favori"), QStringLiteral("Choisir…"),
+                           QStringLiteral("Restaurer les valeurs par défaut")}));
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "tests/window/window_test.h"
+
+#include "tests/support/printing.h"
+#include "tests/support/spin_until.h"
+
+#include <chrono>
+
+namespace quillon {
+
+namespace {
+
+// A program under the sanitizers, on a machine that builds something else meanwhile.
+constexpr std::chrono::seconds kPatience{60};
+
+} // namespace
+
+std::unique_ptr<Desktop> WindowTest::s_desktop;
+std::unique_ptr<ScreenReader> WindowTest::s_screenReader;
+
+void WindowTest::SetUpTestSuite()
+{
+    s_desktop = std::make_unique<Desktop>();
+    s_screenReader = std::make_unique<ScreenReader>(s_desktop->environment());
+}
+
+void WindowTest::TearDownTestSuite()
+{
+    s_screenReader.reset();
+    s_desktop.reset();
+}
+
+QuillonProcess& WindowTest::program(const QStringList& arguments,
+                                    const QuillonProcess::Environment& more)
+{
+    m_programs.push_back(std::make_unique<QuillonProcess>(arguments, desktop().variables() + more));
+    return *m_programs.back();
+}
+
+QuillonProcess& WindowTest::start(const QStringList& arguments, const QString& title)
+{
+    QuillonProcess& started = program(arguments);
+    started.start();
+    awaitActive(title);
+    return started;
+}
+
+QuillonProcess& WindowTest::startWithLog(const QByteArray& content, const QStringList& options)
+{
+    return start(options + QStringList{m_folder.write(kLog, content)}, kLogTitle);
+}
+
+void WindowTest::awaitActive(const QString& title)
+{
+    ASSERT_TRUE(spinUntil([&title] { return desktop().activeTitle() == title; }, kPatience))
+        << "no window “" << qPrintable(title) << "” has the keyboard, but “"
+        << qPrintable(desktop().activeTitle()) << "”";
+}
+
+void WindowTest::awaitWindows(QStringList titles)
+{
+    titles.sort();
+    const auto shown = [] {
+        QStringList sorted = desktop().titles();
+        sorted.sort();
+        return sorted;
+    };
+    ASSERT_TRUE(spinUntil([&] { return shown() == titles; }, kPatience))
+        << "the windows are: " << qPrintable(shown().join(QStringLiteral(", ")));
+}
+
+AccessibleNode WindowTest::window(const QString& title) const
+{
+    return screenReader().window(running().process().processId(), title).value_or(AccessibleNode());
+}
+
+QString WindowTest::rows() const
+{
+    return elementOfRole(mainWindow(), QStringLiteral("document frame")).text.value_or(QString());
+}
+
+QString WindowTest::status(const QString& title) const
+{
+    return elementOfRole(window(title), QStringLiteral("label")).name;
+}
+
+void WindowTest::awaitRows(const QString& rows) const
+{
+    ASSERT_TRUE(spinUntil([&] { return this->rows() == rows; }, kPatience))
+        << "the rows are: " << qPrintable(this->rows());
+}
+
+void WindowTest::awaitToggle(const QString& name, bool isOn) const
+{
+    ASSERT_TRUE(spinUntil(
+        [&] {
+            const AccessibleNode toggle = element(mainWindow(), QStringLiteral("check box"), name);
+            return toggle.is("enabled") && toggle.is("checked") == isOn;
+        },
+        kPatience))
+        << qPrintable(name) << " does not become " << (isOn ? "on" : "off");
+}
+
+} // namespace quillon

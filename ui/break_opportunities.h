@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+namespace quillon {
+
+// Where a line may be broken inside a word, by the Unicode line breaking algorithm as Qt applies
+// it. For almost every pair of characters the pair alone decides; the answer is asked from Qt's own
+// boundary finder once per pair and kept. Where the neighbourhood decides too (inside numbers, such
+// as "1/2" or "$(5"), the finder is asked each time, about the text at hand.
+class BreakOpportunities {
+public:
+    BreakOpportunities();
+    ~BreakOpportunities();
+    BreakOpportunities(const BreakOpportunities&) = delete;
+    BreakOpportunities& operator=(const BreakOpportunities&) = delete;
+
+    // Whether a line may end before text[at], 0 < at < text.size(). Neither that character nor the
+    // one before it is white space.
+    [[nodiscard]] bool isBefore(QStringView text, qsizetype at) const;
+
+private:
+    enum class Answer : std::uint8_t { Unknown, No, Yes, AskAboutText };
+
+    // ASCII characters each for themselves, all others by their line breaking class.
+    static constexpr std::size_t kKeys = 192;
+    using Table = std::array<std::array<Answer, kKeys>, kKeys>;
+
+    [[nodiscard]] static std::size_t keyOf(char16_t character);
+    [[nodiscard]] static Answer probe(char16_t before, char16_t after);
+
+    std::unique_ptr<Table> m_answers;
+};
+
+} // namespace quillon

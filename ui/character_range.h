@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+
+#include <cstdint>
+
+namespace quillon {
+
+// The smallest of these sets that holds all characters of a text. Each contains the ones before it.
+// In most monospaced fonts all characters of the first three are equally wide.
+enum class CharacterRange : std::uint8_t {
+    Ascii,       // U+0020 to U+007E
+    Latin,       // and U+00A1 to U+017F without the soft hyphen: the accented letters of Europe
+    Typographic, // and U+2012 to U+2022 and U+2026: dashes, quotation marks, bullet, ellipsis
+    Any,
+};
+
+// The range of a text. A long text of range Any is not read to its end.
+CharacterRange characterRangeOf(QStringView text);
+
+// Whether the character is in the range, which is not Any.
+bool isInRange(char16_t character, CharacterRange range);
+
+} // namespace quillon

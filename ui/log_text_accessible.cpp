@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "ui/log_text_accessible.h"
+
+#include "ui/log_text_view.h"
+
+#include <QAccessible>
+#include <QAccessibleTextInterface>
+#include <QAccessibleWidget>
+
+#include <algorithm>
+#include <limits>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+// Offsets count UTF-16 units from the start of the whole text. The rows' places among them are
+// worked out when somebody first asks, and from then on only for rows that are new.
+class LogTextAccessible final : public QAccessibleWidget, public QAccessibleTextInterface {
+public:
+    explicit LogTextAccessible(LogTextView* view)
+        : QAccessibleWidget(view, QAccessible::Document), m_view(view)
+    {
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::TextInterface) {
+            return static_cast<QAccessibleTextInterface*>(this);
+        }
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.readOnly = true;
+        state.multiLine = true;
+        state.selectableText = true;
+        return state;
+    }
+
+    void selection(int index, int* start, int* end) const override
+    {
+        const bool exists = index == 0 && m_view->hasSelection();
+        *start = exists ? offsetOf(m_view->textSelection().start()) : 0;
+        *end = exists ? offsetOf(m_view->textSelection().end()) : 0;
+    }
+    int selectionCount() const override { return m_view->hasSelection() ? 1 : 0; }
+    void addSelection(int start, int end) override
+    {
+        m_view->setTextSelection(positionOf(start), positionOf(end));
+    }
+    void removeSelection(int index) override
+    {
+        if (index == 0) {
+            m_view->setTextSelection(TextPosition(), TextPosition());
+        }
+    }
+    void setSelection(int index, int start, int end) override
+    {
+        if (index == 0) {
+            addSelection(start, end);
+        }
+    }
+
+    int cursorPosition() const override { return offsetOf(m_view->textSelection().caret()); }
+    void setCursorPosition(int position) override
+    {
+        m_view->setTextSelection(positionOf(position), positionOf(position));
+        m_view->scrollToPosition(positionOf(position));
+    }
+
+    QString text(int start, int end) const override
+    {
+        LogTextSelection range;
+        range.select(positionOf(start), positionOf(end));
+        return range.textIn(m_view->attributedText());
+    }
+    int characterCount() const override { return static_cast<int>(offsets().back()); }
+
+    QRect characterRect(int offset) const override
+    {
+        const QRect box = m_view->boxOfPosition(positionOf(offset));
+        return {m_view->viewport()->mapToGlobal(box.topLeft()), box.size()};
+    }
+    int offsetAtPoint(const QPoint& point) const override
+    {
+        return offsetOf(m_view->characterAtPoint(m_view->viewport()->mapFromGlobal(point)));
+    }
+    void scrollToSubstring(int start, int /*end*/) override
+    {
+        m_view->scrollToPosition(positionOf(start));
+    }
+
+    QString attributes(int offset, int* start, int* end) const override
+    {
+        const TextPosition position = positionOf(offset);
+        *start = *end = offset;
+        if (position.row >= m_view->attributedText().rows().size()) {
+            return QString();
+        }
+        const int rowStart = offsetOf(TextPosition{position.row, 0});
+        for (const AttributeRun& run : m_view->textLayout().rowRuns(position.row)) {
+            if (position.offset < run.end()) {
+                *start = rowStart + static_cast<int>(run.start);
+                *end = rowStart + static_cast<int>(run.end());
+                return run.attributes.weight == FontWeight::Bold
+                           ? QStringLiteral("font-weight:bold;")
+                           : QString();
+            }
+        }
+        return QString();
+    }
+
+    // A line is a row of the log, a sentence and a paragraph too. The base class would fetch the
+    // whole text for each question.
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int* start,
+                         int* end) const override
+    {
+        const TextPosition position = positionOf(offset);
+        const AttributedString& shown = m_view->attributedText();
+        if (boundary == QAccessible::NoBoundary) {
+            *start = 0;
+            *end = characterCount();
+            return shown.string();
+        }
+        if (position.row >= shown.rows().size()) {
+            *start = *end = characterCount();
+            return QString();
+        }
+        TextPosition first{position.row, 0};
+        TextPosition last{position.row + 1, 0};
+        if (boundary == QAccessible::CharBoundary) {
+            last = positionAfter(shown, position);
+            first = std::min(position, positionBefore(shown, last));
+        } else if (boundary == QAccessible::WordBoundary && positionAfter(shown, position) == last) {
+            first = position; // the line feed
+        } else if (boundary == QAccessible::WordBoundary) {
+            LogTextSelection word;
+            word.begin(shown, position, SelectionGranularity::Word);
+            first = word.start();
+            last = word.end();
+        }
+        *start = offsetOf(first);
+        *end = offsetOf(last);
+        return text(*start, *end);
+    }
+    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int* start,
+                             int* end) const override
+    {
+        textAtOffset(offset, boundary, start, end);
+        if (*start == 0) {
+            *end = 0;
+            return QString();
+        }
+        return textAtOffset(*start - 1, boundary, start, end);
+    }
+    QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int* start,
+                            int* end) const override
+    {
+        textAtOffset(offset, boundary, start, end);
+        return textAtOffset(*end, boundary, start, end);
+    }
+
+private:
+    // The offset at which each row begins, and the end of the text.
+    const std::vector<qint64>& offsets() const
+    {
+        const AttributedString& text = m_view->attributedText();
+        if (!text.isExtensionOf(m_text) || m_offsets.empty()) {
+            m_offsets.assign(1, 0);
+        }
+        m_text = text;
+        const auto& rows = text.rows();
+        for (auto row = static_cast<qsizetype>(m_offsets.size()) - 1; row < rows.size(); ++row) {
+            m_offsets.push_back(m_offsets.back() + rows[row].length());
+        }
+        return m_offsets;
+    }
+    int offsetOf(TextPosition position) const
+    {
+        const qint64 offset = offsets()[static_cast<std::size_t>(position.row)] + position.offset;
+        return static_cast<int>(std::min<qint64>(offset, std::numeric_limits<int>::max()));
+    }
+    TextPosition positionOf(int offset) const
+    {
+        const auto& starts = offsets();
+        const qint64 clamped = std::clamp<qint64>(offset, 0, starts.back());
+        const auto after = std::upper_bound(starts.begin(), starts.end(), clamped);
+        const qsizetype row = after - starts.begin() - 1;
+        return TextPosition{row, clamped - starts[static_cast<std::size_t>(row)]};
+    }
+
+    LogTextView* m_view;
+    mutable AttributedString m_text;
+    mutable std::vector<qint64> m_offsets;
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
+{
+    auto* const view = qobject_cast<LogTextView*>(object);
+    return view != nullptr ? new LogTextAccessible(view) : nullptr;
+}
+
+} // namespace
+
+void installLogTextAccessibility()
+{
+    QAccessible::installFactory(makeInterface);
+}
+
+void announceReplacedLogText(LogTextView& view)
+{
+    if (QAccessible::isActive()) {
+        QAccessibleEvent changed(&view, QAccessible::VisibleDataChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "render/attributed_string.h"
+#include "ui/break_opportunities.h"
+#include "ui/monospace_metrics.h"
+#include "ui/row_layout.h"
+
+#include <QHash>
+
+#include <list>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+// A place in the text, before the UTF-16 unit `offset` of a row; the row's length is the place
+// after its line feed.
+struct TextPosition {
+    qsizetype row = 0;
+    qsizetype offset = 0;
+    auto operator<=>(const TextPosition&) const = default;
+};
+
+// A visual line, counted from the top of the text, as a line of its row.
+struct VisualLine {
+    qsizetype row = 0;
+    qsizetype lineInRow = 0;
+};
+
+// The layout of a whole text: on which visual line each row begins, exactly and for all rows, while
+// only rows that somebody looks at are laid out in detail. All lines have the same height.
+//
+// A text that extends the one before is laid out from its first new row on; after any other change
+// every row is measured anew, except that rows which need shaping are remembered by their text.
+class LogTextLayout {
+public:
+    LogTextLayout();
+    ~LogTextLayout();
+    LogTextLayout(const LogTextLayout&) = delete;
+    LogTextLayout& operator=(const LogTextLayout&) = delete;
+
+    // Lays the text out: with these metrics, and with lines broken at `lineWidth`, if any. Nothing
+    // is done twice that these three leave as it was.
+    void layOut(const AttributedString& text, std::shared_ptr<const MonospaceMetrics> metrics,
+                std::optional<Fixed> lineWidth);
+
+    [[nodiscard]] const AttributedString& text() const { return m_text; }
+    [[nodiscard]] const MonospaceMetrics& metrics() const { return *m_metrics; }
+    [[nodiscard]] const RowLayouter& layouter() const { return *m_layouter; }
+
+    // Visual lines of all rows, and the empty one after the last row's line feed.
+    [[nodiscard]] qint64 lineCount() const;
+    // The width of the widest row where lines are not broken, else 0.
+    [[nodiscard]] Fixed width() const { return m_width; }
+
+    // The visual line on which a row begins; for the row after the last, the empty last line.
+    [[nodiscard]] qint64 firstLineOf(qsizetype row) const;
+    // The row that a visual line belongs to, 0 ≤ line < lineCount() − 1.
+    [[nodiscard]] VisualLine visualLine(qint64 line) const;
+
+    // A row in detail, and what it looks like; kept for a while. The references hold until many
+    // other rows have been asked for.
+    [[nodiscard]] const RowLayout& rowLayout(qsizetype row) const;
+    [[nodiscard]] const std::vector<AttributeRun>& rowRuns(qsizetype row) const;
+
+private:
+    struct ShapedExtent {
+        QString text;           // kept so that its address stays its own
+        qsizetype prefixLength; // the text begins farther right after a longer number
+        RowExtent extent;
+    };
+    using ShapedExtents = QHash<const QChar*, ShapedExtent>;
+    struct CachedRow {
+        qsizetype row;
+        RowLayout layout;
+        std::optional<std::vector<AttributeRun>> runs;
+    };
+
+    void measureRowsFrom(qsizetype firstRow, const ShapedExtents& known);
+    [[nodiscard]] CachedRow& cachedRow(qsizetype row) const;
+    [[nodiscard]] RowExtent extentOf(qsizetype row, const ShapedExtents& known);
+
+    BreakOpportunities m_opportunities;
+    AttributedString m_text;
+    std::shared_ptr<const MonospaceMetrics> m_metrics;
+    std::optional<Fixed> m_lineWidth;
+    std::unique_ptr<RowLayouter> m_layouter;
+    // For each row the number of visual lines up to its end.
+    std::vector<quint32> m_lineEnds;
+    // The range of each row's characters, known once for as long as the text stays.
+    std::vector<CharacterRange> m_rowRanges;
+    Fixed m_width = 0;
+    ShapedExtents m_shapedExtents;
+    // Most recently used first.
+    mutable std::list<CachedRow> m_cachedRows;
+};
+
+} // namespace quillon

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MIT
+#include "ui/log_text_painter.h"
+
+#include "ui/displayed_text.h"
+#include "ui/line_stretches.h"
+#include "ui/log_text_hit_test.h"
+#include "ui/log_text_selection.h"
+#include "ui/theme.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillon {
+
+namespace {
+
+// What a selected line end shows, in points.
+constexpr double kLineEndMark = 4.0;
+// Lightness (of HSL, 0 to 1) from which a colour can be read on the dark background.
+constexpr float kMinimumDarkLightness = 0.55F;
+
+// The first run that ends after `offset`.
+std::vector<AttributeRun>::const_iterator runAt(const std::vector<AttributeRun>& runs,
+                                                qsizetype offset)
+{
+    return std::partition_point(runs.begin(), runs.end(),
+                                [offset](const AttributeRun& run) { return run.end() <= offset; });
+}
+
+} // namespace
+
+QColor textColorOn(const Color& color, const QPalette& palette)
+{
+    const QColor resolved = resolvedColor(color, palette);
+    if (color.components() == nullptr || appearanceOf(palette) == Appearance::Light ||
+        resolved.lightnessF() >= kMinimumDarkLightness) {
+        return resolved;
+    }
+    return QColor::fromHslF(resolved.hslHueF(), resolved.hslSaturationF(), kMinimumDarkLightness,
+                            resolved.alphaF());
+}
+
+LogTextPainter::LogTextPainter(QPainter& painter, const LogTextLayout& layout,
+                               const QPalette& palette, QPointF offset)
+    : m_painter(painter), m_layout(layout), m_palette(palette), m_offset(offset)
+{
+}
+
+LogTextPainter::~LogTextPainter() = default;
+
+void LogTextPainter::paint(const QRectF& clip, const LogTextSelection& selection)
+{
+    const double height = m_layout.metrics().lineHeight();
+    const double top = clip.top() + m_offset.y() - textOrigin().y();
+    const auto first = std::max<qint64>(0, static_cast<qint64>(std::floor(top / height)));
+    const auto last = std::min<qint64>(
+        m_layout.lineCount() - 1, static_cast<qint64>(std::ceil((top + clip.height()) / height)));
+    for (qint64 line = first; line < last; ++line) {
+        paintLine(line, clip, selection);
+    }
+    paintGlyphs();
+}
+
+void LogTextPainter::paintLine(qint64 line, const QRectF& clip, const LogTextSelection& selection)
+{
+    const VisualLine visual = m_layout.visualLine(line);
+    const RowLayout& row = m_layout.rowLayout(visual.row);
+    const QPointF origin = textOrigin() - m_offset +
+                           QPointF(0, static_cast<double>(line) * m_layout.metrics().lineHeight());
+    const auto [first, last] = row.fragmentsOfLine(visual.lineInRow);
+    // Of a long unbroken line only the fragments on screen are drawn.
+    const Fixed left = toFixed(clip.left() - origin.x());
+    const Fixed right = toFixed(clip.right() - origin.x());
+    const auto begin = row.fragments.begin();
+    const auto from = begin + static_cast<std::ptrdiff_t>(first);
+    const auto to = begin + static_cast<std::ptrdiff_t>(last);
+    auto fragment =
+        std::partition_point(from, to, [left](const RowFragment& each) { return each.x <= left; });
+    for (fragment = fragment == from ? from : fragment - 1; fragment != to; ++fragment) {
+        if (fragment->x > right) {
+            break;
+        }
+        const PlacedFragment placed{visual.row, row, *fragment, origin};
+        locateCharacters(placed);
+        paintBackgrounds(placed);
+        paintSelection(placed, selection);
+        if (fragment->needsShaping) {
+            paintShaped(placed);
+        } else {
+            gatherGlyphs(placed, clip);
+        }
+    }
+}
+
+void LogTextPainter::locateCharacters(const PlacedFragment& placed)
+{
+    const RowFragment& fragment = placed.fragment;
+    m_places.clear();
+    m_shaped.reset();
+    if (fragment.needsShaping) {
+        m_shaped = m_layout.layouter().shape(placed.layout, fragment);
+        return;
+    }
+    Fixed x = fragment.x;
+    for (qsizetype at = fragment.start; at < fragment.end; ++at) {
+        m_places.push_back(x);
+        const char16_t character = placed.layout.text[at].unicode();
+        x = character == u'\t' ? nextTabStop(x, m_layout.metrics())
+                               : x + m_layout.metrics().advance(character).value_or(0);
+    }
+    m_places.push_back(x);
+}
+
+double LogTextPainter::xOf(const PlacedFragment& placed, qsizetype offset) const
+{
+    const auto index = static_cast<std::size_t>(offset - placed.fragment.start);
+    return placed.origin.x() + toPoints(m_places[index]);
+}
+
+void LogTextPainter::fillCharacters(const PlacedFragment& placed, qsizetype start, qsizetype end,
+                                    const QColor& color)
+{
+    const RowFragment& fragment = placed.fragment;
+    const double height = m_layout.metrics().lineHeight();
+    if (!m_shaped) {
+        const double left = xOf(placed, start);
+        m_painter.fillRect(QRectF(left, placed.origin.y(), xOf(placed, end) - left, height), color);
+        return;
+    }
+    const double x = placed.origin.x() + toPoints(fragment.x);
+    for (const auto& [left, right] :
+         stretchesOf(*m_shaped, start - fragment.start, end - fragment.start)) {
+        m_painter.fillRect(QRectF(x + left, placed.origin.y(), right - left, height), color);
+    }
+}
+
+void LogTextPainter::paintBackgrounds(const PlacedFragment& placed)
+{
+    const RowFragment& fragment = placed.fragment;
+    const auto& runs = m_layout.rowRuns(placed.row);
+    for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
+         ++run) {
+        if (run->attributes.background) {
+            fillCharacters(placed, std::max(run->start, fragment.start),
+                           std::min(run->end(), fragment.end),
+                           QColor::fromRgba(resolved(*run->attributes.background)));
+        }
+    }
+}
+
+void LogTextPainter::paintSelection(const PlacedFragment& placed, const LogTextSelection& selection)
+{
+    const RowFragment& fragment = placed.fragment;
+    const QColor color =
+        resolvedColor(Color::system(SystemColor::SelectedTextBackground), m_palette);
+    const TextPosition start =
+        std::max(selection.start(), TextPosition{placed.row, fragment.start});
+    const TextPosition end = std::min(selection.end(), TextPosition{placed.row, fragment.end});
+    if (start < end) {
+        fillCharacters(placed, start.offset, end.offset, color);
+    }
+    const bool isRowEnd = fragment.end == placed.layout.text.size();
+    const TextPosition lineFeed{placed.row, placed.layout.text.size()};
+    if (isRowEnd && selection.start() <= lineFeed && selection.end() > lineFeed) {
+        const double x =
+            placed.origin.x() +
+            toPoints(m_shaped ? fragment.x + toFixed(m_shaped->lineAt(0).naturalTextWidth())
+                              : m_places.back());
+        m_painter.fillRect(
+            QRectF(x, placed.origin.y(), kLineEndMark, m_layout.metrics().lineHeight()), color);
+    }
+}
+
+void LogTextPainter::gatherGlyphs(const PlacedFragment& placed, const QRectF& clip)
+{
+    const RowFragment& fragment = placed.fragment;
+    const MonospaceMetrics& metrics = m_layout.metrics();
+    const double baseline = placed.origin.y() + metrics.baseline();
+    const auto& runs = m_layout.rowRuns(placed.row);
+    for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
+         ++run) {
+        const QRgb color = resolved(run->attributes.foreground);
+        const qsizetype end = std::min(run->end(), fragment.end);
+        for (qsizetype at = std::max(run->start, fragment.start); at < end; ++at) {
+            const double x = xOf(placed, at);
+            if (xOf(placed, at + 1) < clip.left() || x > clip.right()) {
+                continue;
+            }
+            const char16_t character = placed.layout.text[at].unicode();
+            if (isBreakableSpace(character)) {
+                continue;
+            }
+            const Glyph glyph = metrics.glyph(character, run->attributes.weight);
+            if (glyph.font < 0) {
+                continue;
+            }
+            GlyphBatch& batch = batchFor(glyph.font, color);
+            batch.indexes.append(glyph.index);
+            batch.positions.append(QPointF(x, baseline));
+        }
+    }
+}
+
+void LogTextPainter::paintShaped(const PlacedFragment& placed)
+{
+    const RowFragment& fragment = placed.fragment;
+    QList<QTextLayout::FormatRange> formats;
+    const auto& runs = m_layout.rowRuns(placed.row);
+    for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
+         ++run) {
+        QTextLayout::FormatRange range;
+        const qsizetype start = std::max(run->start, fragment.start);
+        range.start = static_cast<int>(start - fragment.start);
+        range.length = static_cast<int>(std::min(run->end(), fragment.end) - start);
+        range.format.setForeground(QColor::fromRgba(resolved(run->attributes.foreground)));
+        formats.append(range);
+    }
+    // Bold is left to the rows that are drawn glyph by glyph: here it would move what follows.
+    const double rise = m_layout.metrics().baseline() - m_shaped->lineAt(0).ascent();
+    m_shaped->draw(&m_painter, placed.origin + QPointF(toPoints(fragment.x), rise), formats);
+}
+
+void LogTextPainter::paintGlyphs()
+{
+    for (const GlyphBatch& batch : m_batches) {
+        QGlyphRun run;
+        run.setRawFont(m_layout.metrics().glyphFont(batch.font));
+        run.setGlyphIndexes(batch.indexes);
+        run.setPositions(batch.positions);
+        m_painter.setPen(QColor::fromRgba(batch.color));
+        m_painter.drawGlyphRun(QPointF(), run);
+    }
+    m_batches.clear();
+    m_lastBatch = 0;
+}
+
+LogTextPainter::GlyphBatch& LogTextPainter::batchFor(int font, QRgb color)
+{
+    const auto fits = [font, color](const GlyphBatch& batch) {
+        return batch.font == font && batch.color == color;
+    };
+    if (m_lastBatch < m_batches.size() && fits(m_batches[m_lastBatch])) {
+        return m_batches[m_lastBatch];
+    }
+    const auto found = std::find_if(m_batches.begin(), m_batches.end(), fits);
+    m_lastBatch = static_cast<std::size_t>(found - m_batches.begin());
+    if (found == m_batches.end()) {
+        m_batches.push_back(GlyphBatch{font, color, {}, {}});
+    }
+    return m_batches[m_lastBatch];
+}
+
+QRgb LogTextPainter::resolved(const Color& color)
+{
+    for (const auto& [known, pixels] : m_colors) {
+        if (known == color) {
+            return pixels;
+        }
+    }
+    m_colors.emplace_back(color, textColorOn(color, m_palette).rgba());
+    return m_colors.back().second;
+}
+
+} // namespace quillon

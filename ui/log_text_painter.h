@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/log_text_layout.h"
+
+#include <QGlyphRun>
+#include <QList>
+#include <QPalette>
+#include <QPointF>
+#include <QRectF>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+class QPainter;
+class QTextLayout;
+
+namespace quillon {
+
+class LogTextSelection;
+
+// Colours fixed for a light background, made legible on a dark one where they are too dark for it;
+// everything else as resolvedColor() has it.
+QColor textColorOn(const Color& color, const QPalette& palette);
+
+// Draws the visible part of a laid-out text. Every row on screen is visited once; the glyphs are
+// gathered by font and colour over the whole screen and drawn together, which takes a tenth of the
+// time of drawing each run for itself.
+class LogTextPainter {
+public:
+    // The references must outlive the painter. `offset` is the point of the text's frame that
+    // stands at the painter's origin.
+    LogTextPainter(QPainter& painter, const LogTextLayout& layout, const QPalette& palette,
+                   QPointF offset);
+    ~LogTextPainter();
+    LogTextPainter(const LogTextPainter&) = delete;
+    LogTextPainter& operator=(const LogTextPainter&) = delete;
+
+    // Draws what lies in `clip` (in the painter's coordinates).
+    void paint(const QRectF& clip, const LogTextSelection& selection);
+
+private:
+    struct GlyphBatch {
+        int font;
+        QRgb color;
+        QList<quint32> indexes;
+        QList<QPointF> positions;
+    };
+    // One fragment of a row at its place on the screen.
+    struct PlacedFragment {
+        qsizetype row;
+        const RowLayout& layout;
+        const RowFragment& fragment;
+        QPointF origin; // top left of the line that the fragment is part of
+    };
+
+    void paintLine(qint64 line, const QRectF& clip, const LogTextSelection& selection);
+    void paintBackgrounds(const PlacedFragment& placed);
+    void paintSelection(const PlacedFragment& placed, const LogTextSelection& selection);
+    void gatherGlyphs(const PlacedFragment& placed, const QRectF& clip);
+    void paintShaped(const PlacedFragment& placed);
+    void paintGlyphs();
+
+    void locateCharacters(const PlacedFragment& placed);
+    [[nodiscard]] double xOf(const PlacedFragment& placed, qsizetype offset) const;
+    void fillCharacters(const PlacedFragment& placed, qsizetype start, qsizetype end,
+                        const QColor& color);
+    GlyphBatch& batchFor(int font, QRgb color);
+    QRgb resolved(const Color& color);
+
+    QPainter& m_painter;
+    const LogTextLayout& m_layout;
+    const QPalette& m_palette;
+    QPointF m_offset;
+    std::vector<GlyphBatch> m_batches;
+    std::size_t m_lastBatch = 0;
+    std::vector<std::pair<Color, QRgb>> m_colors;
+    // Of the fragment at hand: where its characters begin in their line, and where the last ends;
+    // or the text layout that knows it.
+    std::vector<Fixed> m_places;
+    std::unique_ptr<QTextLayout> m_shaped;
+};
+
+} // namespace quillon

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "ui/monospace_metrics.h"
+
+#include "ui/displayed_text.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+// U+2026, the last character of the ranges that may be uniform.
+constexpr char16_t kLastOfRanges = 0x2026;
+// Room between lines of a log, as a part of the font's own height.
+constexpr double kLineSpacing = 1.15;
+
+} // namespace
+
+MonospaceMetrics::MonospaceMetrics(const QFont& regular, const QFont& bold)
+    : m_faces{Face{regular, QRawFont::fromFont(regular), {}},
+              Face{bold, QRawFont::fromFont(bold), {}}},
+      m_advances(std::size_t{1} << 16)
+{
+    const QFontMetricsF metrics(regular);
+    m_columnAdvance = std::max<Fixed>(1, toFixed(metrics.horizontalAdvance(u'0')));
+    const double fontHeight = metrics.ascent() + metrics.descent();
+    m_lineHeight = static_cast<int>(std::ceil(fontHeight * kLineSpacing));
+    m_baseline = std::round((m_lineHeight - fontHeight) / 2 + metrics.ascent());
+    m_uniformRange = findUniformRange();
+}
+
+MonospaceMetrics::~MonospaceMetrics() = default;
+
+std::optional<CharacterRange> MonospaceMetrics::findUniformRange() const
+{
+    std::optional<CharacterRange> uniform;
+    for (const CharacterRange range :
+         {CharacterRange::Ascii, CharacterRange::Latin, CharacterRange::Typographic}) {
+        QString characters;
+        for (char16_t character = 0x20; character <= kLastOfRanges; ++character) {
+            if (isInRange(character, range)) {
+                characters += QChar(character);
+            }
+        }
+        if (!haveColumnAdvance(characters)) {
+            break;
+        }
+        uniform = range;
+    }
+    return uniform;
+}
+
+// Asks the font itself, not a layout for each character: this runs whenever the size changes.
+bool MonospaceMetrics::haveColumnAdvance(const QString& characters) const
+{
+    const QRawFont& raw = m_faces[0].raw;
+    const QList<quint32> glyphs = raw.glyphIndexesForString(characters);
+    if (glyphs.size() != characters.size() || glyphs.contains(0)) {
+        return false;
+    }
+    const QList<QPointF> advances = raw.advancesForGlyphIndexes(glyphs, QRawFont::SeparateAdvances);
+    return std::all_of(advances.begin(), advances.end(), [this](const QPointF& advance) {
+        return toFixed(advance.x()) == m_columnAdvance;
+    });
+}
+
+const QFont& MonospaceMetrics::font(FontWeight weight) const
+{
+    return m_faces[static_cast<std::size_t>(weight)].font;
+}
+
+std::optional<Fixed> MonospaceMetrics::findAdvance(char16_t character) const
+{
+    std::int32_t& kept = m_advances[character];
+    if (needsShaping(character) || character == u'\t') {
+        kept = kNeedsShaping;
+        return std::nullopt;
+    }
+    const QChar shown(displayedCharacter(character));
+    const Fixed advance = toFixed(QFontMetricsF(m_faces[0].font).horizontalAdvance(QString(shown)));
+    kept = static_cast<std::int32_t>(std::max<Fixed>(1, advance));
+    return kept;
+}
+
+Glyph MonospaceMetrics::glyph(char16_t character, FontWeight weight) const
+{
+    Face& face = m_faces[static_cast<std::size_t>(weight)];
+    auto& page = face.pages[character / kPageSize];
+    if (!page) {
+        page = std::make_unique<GlyphPage>();
+    }
+    const std::size_t position = character % kPageSize;
+    if (!page->isKnown[position]) {
+        page->glyphs[position] = findGlyph(character, face);
+        page->isKnown[position] = true;
+    }
+    return page->glyphs[position];
+}
+
+Glyph MonospaceMetrics::findGlyph(char16_t character, const Face& face) const
+{
+    const QString text{QChar(displayedCharacter(character))};
+    if (text.front().isSpace()) {
+        return Glyph{};
+    }
+    const QList<quint32> own = face.raw.glyphIndexesForString(text);
+    if (own.size() == 1 && own.front() != 0) {
+        return Glyph{own.front(), indexOfFont(face.raw)};
+    }
+    QTextLayout layout(text, face.font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    if (runs.isEmpty() || runs.front().glyphIndexes().isEmpty()) {
+        return Glyph{};
+    }
+    return Glyph{runs.front().glyphIndexes().front(), indexOfFont(runs.front().rawFont())};
+}
+
+int MonospaceMetrics::indexOfFont(const QRawFont& font) const
+{
+    const auto found = std::find(m_fonts.begin(), m_fonts.end(), font);
+    if (found == m_fonts.end()) {
+        m_fonts.push_back(font);
+        return static_cast<int>(m_fonts.size()) - 1;
+    }
+    return static_cast<int>(found - m_fonts.begin());
+}
+
+const QRawFont& MonospaceMetrics::glyphFont(int font) const
+{
+    return m_fonts[static_cast<std::size_t>(font)];
+}
+
+} // namespace quillon

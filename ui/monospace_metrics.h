@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "render/text_attributes.h"
+#include "ui/character_range.h"
+#include "ui/text_units.h"
+
+#include <QFont>
+#include <QRawFont>
+#include <QStringView>
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+// A glyph to draw: its index in one of MonospaceMetrics' fonts.
+struct Glyph {
+    quint32 index = 0;
+    // -1 where there is nothing to draw.
+    int font = -1;
+};
+
+// Advances and glyphs of one monospaced font (regular and bold) at one size, each looked up once
+// and then kept per character. Rows are set on lines of one height, whatever fonts their characters
+// are borrowed from, as in a terminal.
+class MonospaceMetrics {
+public:
+    MonospaceMetrics(const QFont& regular, const QFont& bold);
+    ~MonospaceMetrics();
+    MonospaceMetrics(const MonospaceMetrics&) = delete;
+    MonospaceMetrics& operator=(const MonospaceMetrics&) = delete;
+
+    [[nodiscard]] const QFont& font(FontWeight weight) const;
+
+    // The advance that every ASCII character has.
+    [[nodiscard]] Fixed columnAdvance() const { return m_columnAdvance; }
+    // Tab stops stand at multiples of this: eight columns.
+    [[nodiscard]] Fixed tabDistance() const { return 8 * m_columnAdvance; }
+    // Points, a whole number.
+    [[nodiscard]] int lineHeight() const { return m_lineHeight; }
+    // Points from the top of a line to its baseline.
+    [[nodiscard]] double baseline() const { return m_baseline; }
+
+    // The advance of a character, none where it needs shaping or is a tab.
+    [[nodiscard]] std::optional<Fixed> advance(char16_t character) const
+    {
+        const std::int32_t kept = m_advances[character];
+        if (kept == kNeedsShaping) {
+            return std::nullopt;
+        }
+        return kept != kUnknown ? std::optional<Fixed>(kept) : findAdvance(character);
+    }
+
+    // Whether every character of the range has the column advance.
+    [[nodiscard]] bool isUniform(CharacterRange range) const { return range <= m_uniformRange; }
+    [[nodiscard]] bool isUniform(QStringView text) const
+    {
+        return isUniform(characterRangeOf(text));
+    }
+
+    // The glyph of a character that needs no shaping. The bold one is drawn at the places of the
+    // regular one.
+    [[nodiscard]] Glyph glyph(char16_t character, FontWeight weight) const;
+    [[nodiscard]] const QRawFont& glyphFont(int font) const;
+
+private:
+    static constexpr std::size_t kPageSize = 256;
+    static constexpr std::int32_t kUnknown = 0;
+    static constexpr std::int32_t kNeedsShaping = -1;
+
+    struct GlyphPage {
+        std::array<Glyph, kPageSize> glyphs{};
+        std::array<bool, kPageSize> isKnown{};
+    };
+    struct Face {
+        QFont font;
+        QRawFont raw;
+        std::array<std::unique_ptr<GlyphPage>, kPageSize> pages;
+    };
+
+    [[nodiscard]] std::optional<CharacterRange> findUniformRange() const;
+    [[nodiscard]] bool haveColumnAdvance(const QString& characters) const;
+    [[nodiscard]] std::optional<Fixed> findAdvance(char16_t character) const;
+    [[nodiscard]] Glyph findGlyph(char16_t character, const Face& face) const;
+    int indexOfFont(const QRawFont& font) const;
+
+    mutable std::array<Face, 2> m_faces;
+    mutable std::vector<QRawFont> m_fonts;
+    // One for each UTF-16 unit; a character without width of its own is kept as the narrowest.
+    mutable std::vector<std::int32_t> m_advances;
+    Fixed m_columnAdvance;
+    int m_lineHeight;
+    double m_baseline;
+    std::optional<CharacterRange> m_uniformRange;
+};
+
+} // namespace quillon

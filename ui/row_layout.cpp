@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: MIT
+#include "ui/row_layout.h"
+
+#include "render/attributed_string.h"
+#include "ui/displayed_text.h"
+#include "ui/monospace_metrics.h"
+
+#include <QTextLayout>
+
+#include <algorithm>
+#include <limits>
+
+namespace quillon {
+
+namespace {
+
+// Drawing and hit-testing walk a fragment from its start, so that of an unbroken line of two
+// million characters they must not have to walk it all.
+constexpr qsizetype kFragmentLength = 1024;
+// A text layout takes some hundred bytes a character; a row longer than this is laid out in pieces.
+constexpr qsizetype kPieceLength = 4096;
+// How far before the end of a piece a good place to cut is looked for.
+constexpr qsizetype kCutReach = 256;
+
+qsizetype pieceEnd(QStringView text, qsizetype start)
+{
+    const qsizetype limit = start + kPieceLength;
+    if (limit >= text.size()) {
+        return text.size();
+    }
+    for (qsizetype at = limit; at > limit - kCutReach; --at) {
+        if (isBreakableSpace(text[at - 1].unicode())) {
+            return at;
+        }
+    }
+    for (qsizetype at = limit; at > limit - kCutReach; --at) {
+        if (!needsShaping(text[at].unicode()) && !needsShaping(text[at - 1].unicode())) {
+            return at;
+        }
+    }
+    return text[limit].isLowSurrogate() ? limit - 1 : limit;
+}
+
+} // namespace
+
+std::size_t RowLayout::fragmentAt(qsizetype offset) const
+{
+    const auto after = std::upper_bound(
+        fragments.begin(), fragments.end(), offset,
+        [](qsizetype at, const RowFragment& fragment) { return at < fragment.start; });
+    return static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, after - fragments.begin() - 1));
+}
+
+std::pair<std::size_t, std::size_t> RowLayout::fragmentsOfLine(qsizetype line) const
+{
+    const auto range = std::equal_range(
+        fragments.begin(), fragments.end(), RowFragment{.line = line},
+        [](const RowFragment& a, const RowFragment& b) { return a.line < b.line; });
+    return {static_cast<std::size_t>(range.first - fragments.begin()),
+            static_cast<std::size_t>(range.second - fragments.begin())};
+}
+
+RowLayouter::RowLayouter(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
+                         std::optional<Fixed> lineWidth)
+    : m_metrics(metrics), m_lineWidth(lineWidth),
+      m_breaker(metrics, opportunities, lineWidth.value_or(std::numeric_limits<Fixed>::max()))
+{
+}
+
+bool RowLayouter::needsLayout(QStringView text) const
+{
+    return std::any_of(text.begin(), text.end(), [this](QChar character) {
+        return character != u'\t' && !m_metrics.advance(character.unicode());
+    });
+}
+
+Fixed RowLayouter::indentOf(const AttributedRow& row) const
+{
+    return nextTabStop((row.prefixLength() - 1) * m_metrics.columnAdvance(), m_metrics);
+}
+
+std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, CharacterRange range) const
+{
+    const QString& text = row.text();
+    if (m_metrics.isUniform(range)) {
+        const Fixed indent = indentOf(row);
+        const Fixed width = indent + text.size() * m_metrics.columnAdvance();
+        if (!m_lineWidth) {
+            return RowExtent{1, width};
+        }
+        if (width <= *m_lineWidth) {
+            return RowExtent{1, 0};
+        }
+        if (indent < *m_lineWidth) {
+            return RowExtent{m_breaker.breakUniform(text, indent, nullptr), 0};
+        }
+    }
+    if (needsLayout(text)) {
+        return std::nullopt;
+    }
+    const QString displayed = displayedText(row);
+    return m_lineWidth ? RowExtent{m_breaker.breakMixed(displayed, nullptr), 0}
+                       : RowExtent{1, widthOf(displayed, 0, m_metrics)};
+}
+
+RowExtent RowLayouter::measureShaped(const AttributedRow& row) const
+{
+    const RowLayout layout = layOut(row);
+    const RowFragment& last = layout.fragments.back();
+    return RowExtent{layout.lineCount, m_lineWidth ? 0 : xOf(layout, last, last.end)};
+}
+
+RowLayout RowLayouter::layOut(const AttributedRow& row) const
+{
+    RowLayout layout;
+    layout.text = displayedText(row);
+    if (m_lineWidth) {
+        layOutWrapped(layout);
+    } else {
+        layOutUnwrapped(layout);
+    }
+    return layout;
+}
+
+// Rows that need no shaping are one piece of any length; the others are cut.
+std::vector<RowFragment> RowLayouter::pieces(QStringView text) const
+{
+    if (!needsLayout(text)) {
+        return {RowFragment{.start = 0, .end = text.size()}};
+    }
+    std::vector<RowFragment> pieces;
+    qsizetype start = 0;
+    do {
+        const qsizetype end = pieceEnd(text, start);
+        pieces.push_back(RowFragment{.start = start,
+                                     .end = end,
+                                     .needsShaping = needsLayout(text.sliced(start, end - start))});
+        start = end;
+    } while (start < text.size());
+    return pieces;
+}
+
+void RowLayouter::layOutWrapped(RowLayout& layout) const
+{
+    layout.lineCount = 0;
+    for (const RowFragment& piece : pieces(layout.text)) {
+        if (piece.needsShaping) {
+            appendShapedLines(layout, piece);
+            continue;
+        }
+        const QStringView text =
+            QStringView(layout.text).sliced(piece.start, piece.end - piece.start);
+        std::vector<qsizetype> starts{0};
+        static_cast<void>(m_breaker.breakMixed(text, &starts));
+        starts.push_back(text.size());
+        for (std::size_t i = 0; i + 1 < starts.size(); ++i) {
+            layout.fragments.push_back(RowFragment{.start = piece.start + starts[i],
+                                                   .end = piece.start + starts[i + 1],
+                                                   .line = layout.lineCount++});
+        }
+    }
+}
+
+void RowLayouter::appendShapedLines(RowLayout& layout, const RowFragment& piece) const
+{
+    const auto shaped = makeLayout(layout.text.sliced(piece.start, piece.end - piece.start));
+    for (int i = 0; i < shaped->lineCount(); ++i) {
+        const QTextLine line = shaped->lineAt(i);
+        layout.fragments.push_back(
+            RowFragment{.start = piece.start + line.textStart(),
+                        .end = piece.start + line.textStart() + line.textLength(),
+                        .line = layout.lineCount++,
+                        .needsShaping = true});
+    }
+}
+
+void RowLayouter::layOutUnwrapped(RowLayout& layout) const
+{
+    Fixed x = 0;
+    for (const RowFragment& piece : pieces(layout.text)) {
+        qsizetype start = piece.start;
+        do {
+            const qsizetype end =
+                piece.needsShaping ? piece.end : std::min(piece.end, start + kFragmentLength);
+            RowFragment fragment{
+                .start = start, .end = end, .x = x, .needsShaping = piece.needsShaping};
+            layout.fragments.push_back(fragment);
+            x = xOf(layout, fragment, end);
+            start = end;
+        } while (start < piece.end);
+    }
+}
+
+Fixed RowLayouter::xOf(const RowLayout& layout, const RowFragment& fragment, qsizetype offset) const
+{
+    if (fragment.needsShaping) {
+        const auto shaped = shape(layout, fragment);
+        const QTextLine line = shaped->lineAt(0);
+        const int cursor = static_cast<int>(offset - fragment.start);
+        return fragment.x +
+               toFixed(offset == fragment.end ? line.naturalTextWidth() : line.cursorToX(cursor));
+    }
+    const QStringView before =
+        QStringView(layout.text).sliced(fragment.start, offset - fragment.start);
+    return fragment.x + widthOf(before, fragment.x, m_metrics);
+}
+
+qsizetype RowLayouter::offsetAt(const RowLayout& layout, const RowFragment& fragment, Fixed x) const
+{
+    if (fragment.needsShaping) {
+        const auto shaped = shape(layout, fragment);
+        return fragment.start + shaped->lineAt(0).xToCursor(toPoints(x - fragment.x));
+    }
+    Fixed left = fragment.x;
+    for (qsizetype at = fragment.start; at < fragment.end; ++at) {
+        const QStringView character = QStringView(layout.text).sliced(at, 1);
+        const Fixed right = left + widthOf(character, left, m_metrics);
+        if (x < (left + right) / 2) {
+            return at;
+        }
+        left = right;
+    }
+    return fragment.end;
+}
+
+std::unique_ptr<QTextLayout> RowLayouter::shape(const RowLayout& layout,
+                                                const RowFragment& fragment) const
+{
+    auto shaped = std::make_unique<QTextLayout>(
+        layout.text.sliced(fragment.start, fragment.end - fragment.start),
+        m_metrics.font(FontWeight::Regular));
+    QTextOption option(Qt::AlignLeft);
+    option.setTextDirection(Qt::LeftToRight);
+    option.setTabStopDistance(toPoints(m_metrics.tabDistance()));
+    option.setWrapMode(QTextOption::NoWrap);
+    shaped->setTextOption(option);
+    shaped->setCacheEnabled(true);
+    shaped->beginLayout();
+    shaped->createLine();
+    shaped->endLayout();
+    return shaped;
+}
+
+// The row's number stands on the left whatever its text, so the paragraph runs left to right.
+std::unique_ptr<QTextLayout> RowLayouter::makeLayout(const QString& text) const
+{
+    auto layout = std::make_unique<QTextLayout>(text, m_metrics.font(FontWeight::Regular));
+    QTextOption option(Qt::AlignLeft);
+    option.setTextDirection(Qt::LeftToRight);
+    option.setTabStopDistance(toPoints(m_metrics.tabDistance()));
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout->setTextOption(option);
+    layout->beginLayout();
+    for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
+        line.setLineWidth(toPoints(*m_lineWidth));
+    }
+    layout->endLayout();
+    return layout;
+}
+
+} // namespace quillon

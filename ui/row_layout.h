@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/character_range.h"
+#include "ui/line_breaking.h"
+#include "ui/text_units.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QTextLayout;
+
+namespace quillon {
+
+class AttributedRow;
+class BreakOpportunities;
+class MonospaceMetrics;
+
+// How much room a row takes.
+struct RowExtent {
+    qsizetype lineCount = 1;
+    // Where rows are not wrapped, the row's width; 0 where they are.
+    Fixed width = 0;
+};
+
+// A stretch of a row that is drawn in one go: one visual line, or, where lines are not broken, a
+// part of the one line.
+struct RowFragment {
+    qsizetype start = 0; // UTF-16 units from the start of the row
+    qsizetype end = 0;
+    qsizetype line = 0; // visual line within the row
+    Fixed x = 0;        // where the stretch begins in its line
+    // Whether its characters must go through a text layout to find their places.
+    bool needsShaping = false;
+};
+
+// A row cut into fragments, in order.
+struct RowLayout {
+    QString text; // as displayed, without the line feed
+    std::vector<RowFragment> fragments;
+    qsizetype lineCount = 1;
+
+    // The index of the fragment that holds the offset; at a place between two, the later one.
+    [[nodiscard]] std::size_t fragmentAt(qsizetype offset) const;
+    // The range [first, second) of the fragments on a visual line.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> fragmentsOfLine(qsizetype line) const;
+};
+
+// Lays out single rows, for one font and one width. Rows without unusual characters are laid out by
+// arithmetic, the others by QTextLayout, to the same lines. Of a very long row with unusual
+// characters, each piece of some thousand units is laid out for itself and begins a line.
+class RowLayouter {
+public:
+    // `lineWidth`: what lines are broken at, none to keep each row on one line. The references
+    // must outlive the layouter.
+    RowLayouter(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
+                std::optional<Fixed> lineWidth);
+
+    // The row's extent by arithmetic; none where the row has characters that need shaping. `range`
+    // is that of its text.
+    [[nodiscard]] std::optional<RowExtent> measure(const AttributedRow& row,
+                                                   CharacterRange range) const;
+    // The extent of a row with such characters: takes a text layout, which is slow enough to be
+    // worth remembering.
+    [[nodiscard]] RowExtent measureShaped(const AttributedRow& row) const;
+    [[nodiscard]] RowLayout layOut(const AttributedRow& row) const;
+
+    // The place in its line of an offset within the fragment, which may be its end.
+    [[nodiscard]] Fixed xOf(const RowLayout& layout, const RowFragment& fragment,
+                            qsizetype offset) const;
+    // The offset within the fragment whose place is nearest to `x`.
+    [[nodiscard]] qsizetype offsetAt(const RowLayout& layout, const RowFragment& fragment,
+                                     Fixed x) const;
+    // The fragment on one line of a text layout of its own, for drawing.
+    [[nodiscard]] std::unique_ptr<QTextLayout> shape(const RowLayout& layout,
+                                                     const RowFragment& fragment) const;
+
+private:
+    void layOutWrapped(RowLayout& layout) const;
+    void layOutUnwrapped(RowLayout& layout) const;
+    void appendShapedLines(RowLayout& layout, const RowFragment& piece) const;
+    [[nodiscard]] std::vector<RowFragment> pieces(QStringView text) const;
+    [[nodiscard]] bool needsLayout(QStringView text) const;
+    [[nodiscard]] Fixed indentOf(const AttributedRow& row) const;
+    [[nodiscard]] std::unique_ptr<QTextLayout> makeLayout(const QString& text) const;
+
+    const MonospaceMetrics& m_metrics;
+    std::optional<Fixed> m_lineWidth;
+    LineBreaker m_breaker;
+};
+
+} // namespace quillon

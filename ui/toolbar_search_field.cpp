@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "ui/toolbar_search_field.h"
+
+#include "ui/symbol_label.h"
+#include "ui/theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kMinimumEditWidth = 220;
+constexpr int kMaximumWidth = 420;
+constexpr int kPadding = 6;
+constexpr int kSpacing = 6;
+constexpr int kSymbolSize = 16;
+constexpr double kCornerRadius = 6.0;
+
+} // namespace
+
+ToolbarSearchField::ToolbarSearchField(QWidget* parent)
+    : QWidget(parent), m_edit(new QLineEdit(this))
+{
+    m_edit->setFrame(false);
+    m_edit->setPlaceholderText(tr("Recherche… (regex ok)"));
+    m_edit->setAccessibleName(tr("Recherche"));
+    m_edit->setMinimumWidth(kMinimumEditWidth);
+    // The rounded ground is the field's; the line of text adds none of its own.
+    QPalette groundless;
+    groundless.setColor(QPalette::Base, Qt::transparent);
+    m_edit->setPalette(groundless);
+    m_edit->installEventFilter(this);
+
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
+    layout->setSpacing(kSpacing);
+    layout->addWidget(new SymbolLabel(Symbol::Search, kSymbolSize, this));
+    layout->addWidget(m_edit, 1);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setMaximumWidth(kMaximumWidth);
+    setCursor(Qt::IBeamCursor);
+    setFocusProxy(m_edit);
+}
+
+void ToolbarSearchField::focusAndSelect()
+{
+    m_edit->setFocus(Qt::ShortcutFocusReason);
+    m_edit->selectAll();
+}
+
+bool ToolbarSearchField::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        update();
+        break;
+    case QEvent::KeyPress:
+        if (static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
+            m_edit->clear();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ToolbarSearchField::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ground = resolvedColor(Color::system(SystemColor::ControlBackground), palette());
+    painter.setBrush(ground);
+    if (m_edit->hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCornerRadius,
+                                kCornerRadius);
+        return;
+    }
+    constexpr float kOutlineStrength = 0.18F;
+    QColor outline = palette().color(QPalette::WindowText);
+    outline.setAlphaF(kOutlineStrength);
+    painter.setPen(outline);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius,
+                            kCornerRadius);
+}
+
+} // namespace quillon
