@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "model/line_enumeration.h"
 
+#include "platform/utf16_block.h"
+
 #include <algorithm>
+#include <cstdint>
 
 namespace quillon {
 
@@ -12,16 +15,29 @@ constexpr bool isRareTerminator(char16_t unit)
     return unit == u'\r' || unit == u'\u0085' || unit == u'\u2028' || unit == u'\u2029';
 }
 
-// Branch-free over the whole stretch, which vectorises; nearly every one has none.
+constexpr std::uint16_t kCarriageReturn = 0x000D;
+constexpr std::uint16_t kNextLine = 0x0085;
+// U+2028 and U+2029, which differ in their last bit.
+constexpr std::uint16_t kSeparators = 0x2028;
+constexpr std::uint16_t kButLastBit = 0xFFFE;
+
+// Nearly every stretch has none, so all of it is looked at in any case.
 bool hasRareTerminator(QStringView text)
 {
-    unsigned found = 0;
-    for (const QChar unit : text) {
-        found |= unsigned{isRareTerminator(unit.unicode())};
+    const char16_t* const units = text.utf16();
+    Utf16Block found{};
+    qsizetype at = 0;
+    for (; at + kUtf16BlockSize <= text.size(); at += kUtf16BlockSize) {
+        const Utf16Block block = loadUtf16Block(units + at);
+        const auto rare = (block == kCarriageReturn) | (block == kNextLine) |
+                          ((block & kButLastBit) == kSeparators);
+        found |= reinterpret_cast<const Utf16Block&>(rare);
     }
-    return found != 0;
+    return hasAnyBit(found) || std::any_of(units + at, units + text.size(), isRareTerminator);
 }
 
+// A terminator all by itself ends no line: a program that appends one to a followed log has not
+// written a line yet.
 bool isOneTerminator(QStringView text)
 {
     if (text.size() == 1) {

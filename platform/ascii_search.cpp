@@ -37,20 +37,31 @@ qsizetype AsciiSearch::find(QStringView text, qsizetype from) const
     const auto mayStart = [&](qsizetype at) {
         return isUnit(units[at], m_first) && isUnit(units[at + toLast], m_last);
     };
+    // Whether any of the places of a block has both the first and the last character; where none
+    // has, none needs a closer look.
+    const auto candidates = [&](qsizetype at) {
+        const Utf16Block first = loadUtf16Block(units + at);
+        const Utf16Block last = loadUtf16Block(units + at + toLast);
+        const auto both = ((first | m_first.caseBit) == m_first.value) &
+                          ((last | m_last.caseBit) == m_last.value);
+        return reinterpret_cast<const Utf16Block&>(both);
+    };
+    constexpr qsizetype kStep = 2 * kUtf16BlockSize;
     qsizetype at = from;
     while (at < starts) {
         qsizetype stop = starts;
-        if (at + kUtf16BlockSize <= starts) {
-            // Where no place has both the first and the last character, none needs a closer look.
-            const Utf16Block first = loadUtf16Block(units + at);
-            const Utf16Block last = loadUtf16Block(units + at + toLast);
-            const auto candidates = ((first | m_first.caseBit) == m_first.value) &
-                                    ((last | m_last.caseBit) == m_last.value);
-            if (!hasAnyBit(reinterpret_cast<const Utf16Block&>(candidates))) {
-                at += kUtf16BlockSize;
+        if (at + kStep <= starts) {
+            stop = at + kStep;
+            if (!hasAnyBit(candidates(at) | candidates(at + kUtf16BlockSize))) {
+                at = stop;
                 continue;
             }
-            stop = at + kUtf16BlockSize;
+        } else if (starts >= kStep) {
+            // The last places, looked at together with some that have been looked at before.
+            const qsizetype lastStep = starts - kStep;
+            if (!hasAnyBit(candidates(lastStep) | candidates(lastStep + kUtf16BlockSize))) {
+                return -1;
+            }
         }
         for (; at < stop; ++at) {
             if (mayStart(at) && isAt(units + at)) {

@@ -120,25 +120,29 @@ void UserDefaults::removeObject(const QString& key)
 
 // Editors replace the file rather than write into it, which ends a watch on the file itself; the
 // watch on its folder (or on the nearest one that may be read) tells when it is back.
-void UserDefaults::watchFile()
+bool UserDefaults::watchFile()
 {
     const QString path = m_settings.fileName();
-    if (QFileInfo(path).isReadable() && !m_watcher.files().contains(path)) {
-        m_watcher.addPath(path);
-    }
     QString folder = QFileInfo(path).absolutePath();
     while (!QFileInfo(folder).isReadable() && !QDir(folder).isRoot()) {
         folder = QFileInfo(folder).absolutePath();
     }
+    bool isNew = false;
     if (!m_watcher.directories().contains(folder)) {
-        m_watcher.addPath(folder);
+        isNew = m_watcher.addPath(folder);
     }
+    if (QFileInfo(path).isReadable() && !m_watcher.files().contains(path)) {
+        isNew = m_watcher.addPath(path) || isNew;
+    }
+    return isNew;
 }
 
 void UserDefaults::reloadAfterOutsideChange()
 {
-    watchFile();
-    m_settings.sync();
+    // What changes between reading and the start of a watch would go unseen: read again after it.
+    do {
+        m_settings.sync();
+    } while (watchFile());
     QHash<QString, QVariant> stored = readStored();
     // Our own writes come back here too: values as text, where they were set as numbers.
     const auto sameText = [](const QVariant& a, const QVariant& b) {

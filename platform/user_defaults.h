@@ -50,7 +50,8 @@ public:
     void removeObject(const QString& key);
 
 private:
-    void watchFile();
+    // Gives true when it began to watch something that it did not watch before.
+    bool watchFile();
     void reloadAfterOutsideChange();
     [[nodiscard]] QHash<QString, QVariant> readStored() const;
 

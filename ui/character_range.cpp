@@ -44,7 +44,7 @@ qsizetype asciiBlocks(QStringView text)
     const char16_t* const units = text.utf16();
     qsizetype at = 0;
     for (; at + kUtf16BlockSize <= text.size(); at += kUtf16BlockSize) {
-        const auto beyond = (loadUtf16Block(units + at) - kFirstAscii) >
+        const auto beyond = (loadUtf16Block(units + at) - std::uint16_t{kFirstAscii}) >
                             static_cast<std::uint16_t>(kLastAscii - kFirstAscii);
         if (hasAnyBit(reinterpret_cast<const Utf16Block&>(beyond))) {
             break;

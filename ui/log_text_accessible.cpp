@@ -135,7 +135,8 @@ public:
         if (boundary == QAccessible::CharBoundary) {
             last = positionAfter(shown, position);
             first = std::min(position, positionBefore(shown, last));
-        } else if (boundary == QAccessible::WordBoundary && positionAfter(shown, position) == last) {
+        } else if (boundary == QAccessible::WordBoundary &&
+                   positionAfter(shown, position) == last) {
             first = position; // the line feed
         } else if (boundary == QAccessible::WordBoundary) {
             LogTextSelection word;

@@ -9,6 +9,9 @@ namespace {
 
 // Rows kept in detail: more than a large screen shows.
 constexpr std::size_t kMaximumCachedRows = 256;
+// UTF-16 units from which on a row is laid out in detail at once instead of being measured first
+// and laid out when it is shown: for a line of two million, that is half of the work.
+constexpr qsizetype kLongRow = 65'536;
 
 } // namespace
 
@@ -65,6 +68,11 @@ RowExtent LogTextLayout::extentOf(qsizetype index, const ShapedExtents& known)
     const auto position = static_cast<std::size_t>(index);
     if (position == m_rowRanges.size()) {
         m_rowRanges.push_back(characterRangeOf(row.text()));
+    }
+    if (row.text().size() > kLongRow) {
+        // It will be looked at soon, being most of the log.
+        const RowLayout& layout = rowLayout(index);
+        return m_layouter->extentOf(layout);
     }
     if (const auto extent = m_layouter->measure(row, m_rowRanges[position])) {
         return *extent;

@@ -204,23 +204,26 @@ void LogTextPainter::gatherGlyphs(const PlacedFragment& placed, const QRectF& cl
     }
 }
 
+// Glyph by glyph too: a text layout keeps to the pen that it finds, whatever formats it is given to
+// draw with, and formats that it is laid out with tear letters that join.
 void LogTextPainter::paintShaped(const PlacedFragment& placed)
 {
     const RowFragment& fragment = placed.fragment;
-    QList<QTextLayout::FormatRange> formats;
+    const QTextLine line = m_shaped->lineAt(0);
+    const double rise = m_layout.metrics().baseline() - line.ascent();
+    const QPointF place = placed.origin + QPointF(toPoints(fragment.x), rise);
     const auto& runs = m_layout.rowRuns(placed.row);
     for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
          ++run) {
-        QTextLayout::FormatRange range;
         const qsizetype start = std::max(run->start, fragment.start);
-        range.start = static_cast<int>(start - fragment.start);
-        range.length = static_cast<int>(std::min(run->end(), fragment.end) - start);
-        range.format.setForeground(QColor::fromRgba(resolved(run->attributes.foreground)));
-        formats.append(range);
+        const qsizetype end = std::min(run->end(), fragment.end);
+        m_painter.setPen(QColor::fromRgba(resolved(run->attributes.foreground)));
+        // Bold is left to the rows that need no shaping: here it would move what follows.
+        for (const QGlyphRun& glyphs : line.glyphRuns(static_cast<int>(start - fragment.start),
+                                                      static_cast<int>(end - start))) {
+            m_painter.drawGlyphRun(place, glyphs);
+        }
     }
-    // Bold is left to the rows that are drawn glyph by glyph: here it would move what follows.
-    const double rise = m_layout.metrics().baseline() - m_shaped->lineAt(0).ascent();
-    m_shaped->draw(&m_painter, placed.origin + QPointF(toPoints(fragment.x), rise), formats);
 }
 
 void LogTextPainter::paintGlyphs()

@@ -18,6 +18,14 @@
 
 namespace quillon {
 
+namespace {
+
+// Points; beyond these there is nothing to read, and fonts stop working.
+constexpr double kMinimumFontSize = 1.0;
+constexpr double kMaximumFontSize = 500.0;
+
+} // namespace
+
 LogTextView::LogTextView(const LogTextContent& content, QWidget* parent)
     : QAbstractScrollArea(parent), m_content(content), m_layout(std::make_unique<LogTextLayout>())
 {
@@ -31,7 +39,7 @@ LogTextView::LogTextView(const LogTextContent& content, QWidget* parent)
     setAttribute(Qt::WA_InputMethodEnabled, false);
     scheduleReplacement();
     // Nobody has given the view a width yet; what Qt says meanwhile is a mere placeholder.
-    applyWrapping(content.isWrapped, 0.0);
+    m_geometry.applyWrapping(content.isWrapped, 0.0);
     layOutText();
     // By then the view has been placed in its window and its clip has its real width.
     QMetaObject::invokeMethod(this, &LogTextView::fitToClip, Qt::QueuedConnection);
@@ -44,15 +52,16 @@ void LogTextView::update(const LogTextContent& content)
     m_content = content;
     // First, since a scroll bar that goes away resizes the viewport, which lays out anew.
     scheduleReplacement();
-    applyWrapping(content.isWrapped, viewport()->width());
+    applyWrapping(content.isWrapped);
 }
 
 // The clip's width does not change with the text that it shows, but for the scroll bars, whose
 // coming and going resizes the viewport and leads here again.
-void LogTextView::applyWrapping(bool isWrapped, double clipWidth)
+void LogTextView::applyWrapping(bool isWrapped)
 {
     setHorizontalScrollBarPolicy(isWrapped ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
-    m_geometry.applyWrapping(isWrapped, clipWidth);
+    // Only now: a scroll bar that comes or goes has just changed it.
+    m_geometry.applyWrapping(isWrapped, viewport()->width());
 }
 
 void LogTextView::scheduleReplacement()
@@ -84,8 +93,13 @@ void LogTextView::replaceText()
 
 void LogTextView::layOutText()
 {
-    if (!m_metrics || m_metricsSize != m_content.fontSize) {
-        m_metricsSize = m_content.fontSize;
+    // Settings may hold any number, also none.
+    const double fontSize =
+        std::isnan(m_content.fontSize)
+            ? LogTextContent().fontSize
+            : std::clamp(m_content.fontSize, kMinimumFontSize, kMaximumFontSize);
+    if (!m_metrics || m_metricsSize != fontSize) {
+        m_metricsSize = fontSize;
         m_metrics = std::make_shared<const MonospaceMetrics>(
             monospacedSystemFont(m_metricsSize, FontWeight::Regular),
             monospacedSystemFont(m_metricsSize, FontWeight::Bold));
@@ -185,7 +199,7 @@ void LogTextView::fitToClip()
     const double formerWidth = m_geometry.container().width;
     const TextPosition top = positionAtPoint(QPoint(0, 0));
     const double hidden = bar->value() - boxAt(*m_layout, top).top();
-    applyWrapping(m_content.isWrapped, viewport()->width());
+    applyWrapping(m_content.isWrapped);
     layOutText();
     // What was read stays in sight although lines are broken elsewhere now.
     if (wasAtEnd) {

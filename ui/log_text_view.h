@@ -86,7 +86,7 @@ private:
         quint64 time = 0; // milliseconds
     };
 
-    void applyWrapping(bool isWrapped, double clipWidth);
+    void applyWrapping(bool isWrapped);
     void fitToClip();
     void scheduleReplacement();
     void replaceText();

@@ -263,9 +263,11 @@ bool LogTextView::scrollOnKey(const QKeyEvent& event)
         KeyAction{Qt::Key_Left, Qt::Horizontal, QAbstractSlider::SliderSingleStepSub},
         KeyAction{Qt::Key_Right, Qt::Horizontal, QAbstractSlider::SliderSingleStepAdd},
     };
+    const bool isBack = event.key() == Qt::Key_Space && event.modifiers() == Qt::ShiftModifier;
+    const int key = isBack ? int{Qt::Key_PageUp} : event.key();
     const auto* const found =
         std::find_if(kActions.begin(), kActions.end(),
-                     [&event](const KeyAction& action) { return action.key == event.key(); });
+                     [key](const KeyAction& action) { return action.key == key; });
     if (found == kActions.end()) {
         return false;
     }

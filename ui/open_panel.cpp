@@ -43,6 +43,9 @@ void labelFallbackDialog(QFileDialog& dialog)
     dialog.setLabelText(QFileDialog::Reject, translated("Annuler"));
 }
 
+// Wide enough for a folder's columns; a desktop's dialog has a size of its own.
+constexpr QSize kDialogSize(800, 500);
+
 std::optional<QUrl> runOpenPanel(const OpenPanelRequest& request, QWidget* window)
 {
     QFileDialog dialog(window, request.title);
@@ -50,6 +53,7 @@ std::optional<QUrl> runOpenPanel(const OpenPanelRequest& request, QWidget* windo
     dialog.setFileMode(fileMode(request));
     dialog.setNameFilters(nameFilters(request));
     labelFallbackDialog(dialog);
+    dialog.resize(kDialogSize);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedUrls().isEmpty()) {
         return std::nullopt;
     }

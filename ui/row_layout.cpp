@@ -98,14 +98,23 @@ std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, Characte
     if (needsLayout(text)) {
         return std::nullopt;
     }
-    const QString displayed = displayedText(row);
-    return m_lineWidth ? RowExtent{m_breaker.breakMixed(displayed, nullptr), 0}
-                       : RowExtent{1, widthOf(displayed, 0, m_metrics)};
+    // Control characters are measured as their pictures either way, so the row needs no copy of
+    // its own to be measured; the buffer is the same for all rows.
+    m_buffer.assign(QString::number(row.number()).toStdU16String());
+    m_buffer += u'\t';
+    m_buffer.append(reinterpret_cast<const char16_t*>(text.utf16()),
+                    static_cast<std::size_t>(text.size()));
+    return m_lineWidth ? RowExtent{m_breaker.breakMixed(m_buffer, nullptr), 0}
+                       : RowExtent{1, widthOf(m_buffer, 0, m_metrics)};
 }
 
 RowExtent RowLayouter::measureShaped(const AttributedRow& row) const
 {
-    const RowLayout layout = layOut(row);
+    return extentOf(layOut(row));
+}
+
+RowExtent RowLayouter::extentOf(const RowLayout& layout) const
+{
     const RowFragment& last = layout.fragments.back();
     return RowExtent{layout.lineCount, m_lineWidth ? 0 : xOf(layout, last, last.end)};
 }

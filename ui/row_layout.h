@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 class QTextLayout;
@@ -66,6 +67,7 @@ public:
     // The extent of a row with such characters: takes a text layout, which is slow enough to be
     // worth remembering.
     [[nodiscard]] RowExtent measureShaped(const AttributedRow& row) const;
+    [[nodiscard]] RowExtent extentOf(const RowLayout& layout) const;
     [[nodiscard]] RowLayout layOut(const AttributedRow& row) const;
 
     // The place in its line of an offset within the fragment, which may be its end.
@@ -90,6 +92,7 @@ private:
     const MonospaceMetrics& m_metrics;
     std::optional<Fixed> m_lineWidth;
     LineBreaker m_breaker;
+    mutable std::u16string m_buffer;
 };
 
 } // namespace quillon

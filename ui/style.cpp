@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/style.h"
 
+#include "ui/flat_controls.h"
+#include "ui/slim_scroll_bar.h"
+
 #include <QAbstractButton>
 #include <QPainter>
+#include <QSlider>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -14,26 +18,12 @@ namespace {
 
 constexpr int kControlHeight = 26;
 constexpr int kButtonPadding = 12;
-constexpr double kRingWidth = 2.0;
-constexpr double kRingRadius = 4.0;
 
 // Rings on what was clicked would only distract.
 bool hasKeyboardFocus(const QStyleOption& option)
 {
     return option.state.testFlag(QStyle::State_HasFocus) &&
            option.state.testFlag(QStyle::State_KeyboardFocusChange);
-}
-
-void drawFocusRing(QPainter& painter, const QRect& around, const QPalette& palette)
-{
-    constexpr double kInset = kRingWidth / 2;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette.color(QPalette::Link), kRingWidth));
-    painter.drawRoundedRect(QRectF(around).adjusted(kInset, kInset, -kInset, -kInset), kRingRadius,
-                            kRingRadius);
-    painter.restore();
 }
 
 } // namespace
@@ -47,10 +37,28 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     if (type == CT_PushButton) {
         size.rwidth() += kButtonPadding;
     }
-    if (type == CT_PushButton || type == CT_LineEdit) {
+    // A field without a frame is part of something else, which gives it its room.
+    const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const bool isFramedField = type == CT_LineEdit && frame != nullptr && frame->lineWidth > 0;
+    if (type == CT_PushButton || isFramedField) {
         size.setHeight(std::max(size.height(), kControlHeight));
     }
     return size;
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    return metric == PM_ScrollBarExtent ? kScrollBarThickness
+                                        : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl part, const QWidget* widget) const
+{
+    const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    return control == CC_ScrollBar && slider != nullptr
+               ? scrollBarPart(*slider, part)
+               : QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -65,11 +73,32 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                QPainter* painter, const QWidget* widget) const
 {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_Slider && hasKeyboardFocus(*option)) {
-        const QRect handle = subControlRect(CC_Slider, option, SC_SliderHandle, widget);
+    const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && slider != nullptr) {
+        drawScrollBar(*painter, *slider, widget);
+        return;
+    }
+    const bool isPlainSlider = control == CC_Slider && slider != nullptr &&
+                               slider->orientation == Qt::Horizontal &&
+                               slider->tickPosition == QSlider::NoTicks;
+    if (!isPlainSlider) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    const QRect handle = subControlRect(CC_Slider, option, SC_SliderHandle, widget);
+    drawSlider(*painter, *option, handle);
+    if (hasKeyboardFocus(*option)) {
         drawFocusRing(*painter, handle, option->palette);
     }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returned) const
+{
+    // Pictures beside "open" and "cancel" say nothing that the words do not say.
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons
+               ? 0
+               : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -81,12 +110,23 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         drawFocusRing(*painter, isButton ? widget->rect() : option->rect, option->palette);
         return;
     }
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-    const bool isFramed = frame != nullptr && frame->lineWidth > 0;
-    if (element == PE_PanelLineEdit && isFramed && option->state.testFlag(State_HasFocus)) {
-        drawFocusRing(*painter, option->rect, option->palette);
+    if (element == PE_PanelScrollAreaCorner) {
+        painter->fillRect(option->rect, scrollBarGround(option->palette, widget));
+        return;
     }
+    if (element == PE_PanelButtonCommand) {
+        drawButtonGround(*painter, *option);
+        return;
+    }
+    const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth > 0) {
+        drawFieldGround(*painter, *option);
+        if (option->state.testFlag(State_HasFocus)) {
+            drawFocusRing(*painter, option->rect, option->palette);
+        }
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 } // namespace quillon

@@ -5,8 +5,8 @@
 
 namespace quillon {
 
-// Fusion, which takes every colour from the palette, with roomier buttons and fields and a focus
-// ring that is seen at a glance.
+// Fusion, which takes every colour from the palette, with flat, roomier controls, slim scroll bars
+// without arrows, and a focus ring that is seen at a glance.
 class Style : public QProxyStyle {
     Q_OBJECT
 
@@ -16,6 +16,12 @@ public:
     [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
                                          const QSize& contents,
                                          const QWidget* widget) const override;
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                  const QWidget* widget) const override;
+    [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                       SubControl part, const QWidget* widget) const override;
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                QStyleHintReturn* returned) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -17,6 +17,9 @@ void expectLikeTheEngine(const QString& pattern, const QString& text)
     const auto engine = RegularExpression::compile(pattern, CaseSensitivity::Insensitive);
     ASSERT_NE(engine, nullptr) << qPrintable(pattern);
     std::vector<TextRange> expected = engine->allMatches(text);
+    if (engine->isExhausted()) {
+        return; // some patterns, such as "$*?^", keep ICU 72 going round for ever
+    }
     std::erase_if(expected, [](const TextRange& range) { return range.length == 0; });
     const auto search = SearchExpression::make(pattern);
     ASSERT_EQ(search->matches(text), engine->hasMatch(text))
@@ -93,13 +96,40 @@ TEST(SearchExpressionProperty, RandomWordsFindWhatTheEngineFindsInPlainTexts)
     }
 }
 
+TEST(SearchExpressionProperty, RandomExpressionsFindWhatTheEngineFinds)
+{
+    const QStringList parts{
+        QStringLiteral("abc"), QStringLiteral("ab"),   QStringLiteral("sst"),
+        QStringLiteral("c"),   QStringLiteral("."),    QStringLiteral(".*"),
+        QStringLiteral("*"),   QStringLiteral("+"),    QStringLiteral("?"),
+        QStringLiteral("*?"),  QStringLiteral("^"),    QStringLiteral("$"),
+        QStringLiteral("|"),   QStringLiteral("(ab)"), QStringLiteral("[bc]"),
+        QStringLiteral("\\b"), QStringLiteral("b{0}"), QStringLiteral(" "),
+    };
+    const QStringList pieces{
+        QStringLiteral("a"),  QStringLiteral("ab"), QStringLiteral("abc"), QStringLiteral("C"),
+        QStringLiteral("ss"), QStringLiteral("ß"),  QStringLiteral("ﬆ"),   QStringLiteral("t"),
+        QStringLiteral(" "),  QStringLiteral("é"),
+    };
+    RandomText random(33);
+    int compared = 0;
+    while (compared < 20'000 && !testing::Test::HasFailure()) {
+        const QString pattern = random.join(parts, 5);
+        if (RegularExpression::compile(pattern, CaseSensitivity::Insensitive)) {
+            expectLikeTheEngine(pattern, random.join(pieces, 12));
+            ++compared;
+        }
+    }
+}
+
 TEST(SearchExpressionProperty, WordsFindWhatTheEngineFindsInGenuineLogs)
 {
     for (const QString& name : testDataNames()) {
         const QString text = decodeText(testData(name));
         LineEnumeration enumeration(text);
         while (const auto line = enumeration.next()) {
-            for (const char16_t* word : {u"e", u"php", u"ERROR", u"array", u" in /var", u"12:"}) {
+            for (const char16_t* word : {u"e", u"php", u"ERROR", u"array", u" in /var", u"12:",
+                                         u"undefined .* key", u"warnings?:", u"^.*trace"}) {
                 expectLikeTheEngine(QString::fromUtf16(word), line->toString());
             }
         }

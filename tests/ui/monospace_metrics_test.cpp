@@ -65,7 +65,8 @@ TEST_F(MonospaceMetricsTest, EveryCharacterOfAUniformRangeHasTheColumnAdvance)
     for (char32_t character = 0; character < 0x10000; ++character) {
         const auto unit = static_cast<char16_t>(character);
         if (metrics->isUniform(characterRangeOf(QString(QChar(unit))))) {
-            EXPECT_EQ(metrics->advance(unit), metrics->columnAdvance()) << static_cast<unsigned>(character);
+            EXPECT_EQ(metrics->advance(unit), metrics->columnAdvance())
+                << static_cast<unsigned>(character);
         }
     }
 }

@@ -8,7 +8,7 @@ Each line of standard input is a request in JSON, each answer one line of standa
   {"request": "listen"}                              from here on, changes of state are collected
   {"request": "events", "pid": 12}                   what was collected for that program
 
-Trees of lists and tables end at their root: those of a file dialog hold whole folders.
+Trees end at lists and tables, which hold whole folders in a file dialog, and at the menu bar.
 """
 import json
 import sys
@@ -18,9 +18,16 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-ENDS = {Atspi.Role.LIST, Atspi.Role.TABLE, Atspi.Role.TREE, Atspi.Role.TREE_TABLE}
+ENDS = {
+    Atspi.Role.LIST,
+    Atspi.Role.MENU_BAR,
+    Atspi.Role.TABLE,
+    Atspi.Role.TREE,
+    Atspi.Role.TREE_TABLE,
+}
 
 collected = []
+listeners = []
 
 
 def application(pid):
@@ -69,8 +76,9 @@ def collect(event):
 
 
 def listen(_request):
-    listener = Atspi.EventListener.new(collect)
-    listener.register("object:state-changed")
+    if not listeners:
+        listeners.append(Atspi.EventListener.new(collect))
+        listeners[0].register("object:state-changed")
     return True
 
 
@@ -99,7 +107,8 @@ def answer(_source, _condition, loop):
 
 def main():
     loop = GLib.MainLoop()
-    GLib.io_add_watch(sys.stdin.fileno(), GLib.PRIORITY_DEFAULT, GLib.IO_IN | GLib.IO_HUP, answer, loop)
+    conditions = GLib.IO_IN | GLib.IO_HUP
+    GLib.io_add_watch(sys.stdin.fileno(), GLib.PRIORITY_DEFAULT, conditions, answer, loop)
     loop.run()
 
 

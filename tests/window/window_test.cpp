@@ -22,6 +22,7 @@ void WindowTest::SetUpTestSuite()
 {
     s_desktop = std::make_unique<Desktop>();
     s_screenReader = std::make_unique<ScreenReader>(s_desktop->environment());
+    s_screenReader->listen();
 }
 
 void WindowTest::TearDownTestSuite()
@@ -82,6 +83,17 @@ QString WindowTest::rows() const
 QString WindowTest::status(const QString& title) const
 {
     return elementOfRole(window(title), QStringLiteral("label")).name;
+}
+
+QString WindowTest::announcedFocus() const
+{
+    QString focus;
+    for (const AccessibleEvent& event : screenReader().heard(running().process().processId())) {
+        if (event.type == QLatin1StringView("object:state-changed:focused") && event.detail == 1) {
+            focus = event.name;
+        }
+    }
+    return focus;
 }
 
 void WindowTest::awaitRows(const QString& rows) const

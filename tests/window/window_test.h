@@ -53,6 +53,8 @@ protected:
     // The rows of the log and the status text in the running program's main window.
     [[nodiscard]] QString rows() const;
     [[nodiscard]] QString status(const QString& title = kLogTitle) const;
+    // The element that the running program last announced as having the keyboard.
+    [[nodiscard]] QString announcedFocus() const;
     // Waits until the log shows these rows and nothing else.
     void awaitRows(const QString& rows) const;
     // Waits until a toggle of that name is on or off in the main window.
