@@ -107,7 +107,7 @@ BreakOpportunities::Answer BreakOpportunities::probe(char16_t before, char16_t a
     return breaks == kBefore.size() * kAfter.size() ? Answer::Yes : Answer::AskAboutText;
 }
 
-bool BreakOpportunities::isBefore(QStringView text, qsizetype at) const
+bool BreakOpportunities::isBeforeUnusual(QStringView text, qsizetype at) const
 {
     const char16_t before = displayedCharacter(text[at - 1].unicode());
     const char16_t after = displayedCharacter(text[at].unicode());

@@ -22,10 +22,26 @@ public:
 
     // Whether a line may end before text[at], 0 < at < text.size(). Neither that character nor the
     // one before it is white space.
-    [[nodiscard]] bool isBefore(QStringView text, qsizetype at) const;
+    [[nodiscard]] bool isBefore(QStringView text, qsizetype at) const
+    {
+        const char16_t before = text[at - 1].unicode();
+        const char16_t after = text[at].unicode();
+        if (before < kAscii && after < kAscii) {
+            const Answer answer = (*m_answers)[before][after];
+            if (answer == Answer::No || answer == Answer::Yes) {
+                return answer == Answer::Yes;
+            }
+        }
+        return isBeforeUnusual(text, at);
+    }
 
 private:
     enum class Answer : std::uint8_t { Unknown, No, Yes, AskAboutText };
+
+    static constexpr char16_t kAscii = 128;
+
+    // For pairs beyond ASCII, pairs that are met for the first time, and those that do not decide.
+    [[nodiscard]] bool isBeforeUnusual(QStringView text, qsizetype at) const;
 
     // ASCII characters each for themselves, all others by their line breaking class.
     static constexpr std::size_t kKeys = 192;

@@ -18,33 +18,42 @@ bool isSpaceAt(QStringView text, qsizetype at)
 
 } // namespace
 
+LineBreaker::LineBreaker(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
+                         Fixed width)
+    : m_metrics(metrics), m_opportunities(opportunities), m_width(width),
+      m_columns(width / metrics.columnAdvance())
+{
+}
+
 qsizetype LineBreaker::breakUniform(QStringView text, Fixed firstIndent,
                                     std::vector<qsizetype>* starts) const
 {
-    const Fixed column = m_metrics.columnAdvance();
-    const qsizetype capacity = std::max<qsizetype>(1, m_width / column);
-    qsizetype available = std::max<qsizetype>(0, (m_width - firstIndent) / column);
-    // White space at the end hangs, so it never makes a line of its own.
-    qsizetype size = text.size();
-    while (size > 0 && isSpaceAt(text, size - 1)) {
-        --size;
-    }
+    // Nearly every row's text begins at the first tab stop; dividing for each takes longer than all
+    // the rest of a short row.
+    qsizetype available = firstIndent == m_metrics.tabDistance()
+                              ? m_columns - MonospaceMetrics::kTabColumns
+                              : (m_width - firstIndent) / m_metrics.columnAdvance();
+    available = std::max<qsizetype>(0, available);
     qsizetype lines = 1;
     qsizetype start = 0;
     bool mayMoveWholeText = firstIndent > 0;
-    while (size - start > available) {
+    while (text.size() - start > available) {
         const qsizetype limit = start + available;
         qsizetype next = limit;
         if (isSpaceAt(text, limit)) {
-            while (isSpaceAt(text, next)) {
+            while (next < text.size() && isSpaceAt(text, next)) {
                 ++next;
+            }
+            // White space at the end hangs, so it never makes a line of its own.
+            if (next == text.size()) {
+                break;
             }
         } else {
             const qsizetype cut = mayMoveWholeText ? start : std::max(limit, start + 1);
             next = lastEnd(text, start, limit).value_or(cut);
         }
         mayMoveWholeText = false;
-        available = capacity;
+        available = std::max<qsizetype>(1, m_columns);
         start = next;
         ++lines;
         if (starts != nullptr) {

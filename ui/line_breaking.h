@@ -22,10 +22,10 @@ class LineBreaker {
 public:
     // Both must outlive the breaker.
     LineBreaker(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
-                Fixed width)
-        : m_metrics(metrics), m_opportunities(opportunities), m_width(width)
-    {
-    }
+                Fixed width);
+
+    // Whole columns that fit on a line.
+    [[nodiscard]] qsizetype columns() const { return m_columns; }
 
     // For text whose characters all have the column advance, white space being spaces only. Reads
     // no more than the ends of the lines. `firstIndent` is where the first line starts, after a tab
@@ -47,6 +47,7 @@ private:
     const MonospaceMetrics& m_metrics;
     const BreakOpportunities& m_opportunities;
     Fixed m_width;
+    qsizetype m_columns;
 };
 
 // The x at which the next tab stop after `x` stands.

@@ -12,6 +12,9 @@ constexpr std::size_t kMaximumCachedRows = 256;
 // UTF-16 units from which on a row is laid out in detail at once instead of being measured first
 // and laid out when it is shown: for a line of two million, that is half of the work.
 constexpr qsizetype kLongRow = 65'536;
+// Measuring a row is mostly waiting for its text to come from memory, so that of a later row is
+// sent for meanwhile.
+constexpr qsizetype kPrefetchAhead = 8;
 
 } // namespace
 
@@ -55,6 +58,9 @@ void LogTextLayout::measureRowsFrom(qsizetype firstRow, const ShapedExtents& kno
         m_lineEnds.reserve(static_cast<std::size_t>(rows.size()));
     }
     for (qsizetype row = firstRow; row < rows.size(); ++row) {
+        if (row + kPrefetchAhead < rows.size()) {
+            m_layouter->prefetch(rows[row + kPrefetchAhead]);
+        }
         const RowExtent extent = extentOf(row, known);
         lines += static_cast<quint32>(extent.lineCount);
         m_lineEnds.push_back(lines);

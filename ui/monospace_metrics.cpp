@@ -15,6 +15,9 @@ namespace {
 
 // U+2026, the last character of the ranges that may be uniform.
 constexpr char16_t kLastOfRanges = 0x2026;
+// Between these the ranges have no characters.
+constexpr char16_t kGapStart = 0x180;
+constexpr char16_t kGapEnd = 0x2010;
 // Room between lines of a log, as a part of the font's own height.
 constexpr double kLineSpacing = 1.15;
 
@@ -42,6 +45,9 @@ std::optional<CharacterRange> MonospaceMetrics::findUniformRange() const
          {CharacterRange::Ascii, CharacterRange::Latin, CharacterRange::Typographic}) {
         QString characters;
         for (char16_t character = 0x20; character <= kLastOfRanges; ++character) {
+            if (character == kGapStart) {
+                character = kGapEnd;
+            }
             if (isInRange(character, range)) {
                 characters += QChar(character);
             }

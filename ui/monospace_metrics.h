@@ -37,8 +37,9 @@ public:
 
     // The advance that every ASCII character has.
     [[nodiscard]] Fixed columnAdvance() const { return m_columnAdvance; }
-    // Tab stops stand at multiples of this: eight columns.
-    [[nodiscard]] Fixed tabDistance() const { return 8 * m_columnAdvance; }
+    // Tab stops stand at multiples of so many columns.
+    static constexpr qsizetype kTabColumns = 8;
+    [[nodiscard]] Fixed tabDistance() const { return kTabColumns * m_columnAdvance; }
     // Points, a whole number.
     [[nodiscard]] int lineHeight() const { return m_lineHeight; }
     // Points from the top of a line to its baseline.

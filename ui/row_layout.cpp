@@ -76,7 +76,10 @@ bool RowLayouter::needsLayout(QStringView text) const
 
 Fixed RowLayouter::indentOf(const AttributedRow& row) const
 {
-    return nextTabStop((row.prefixLength() - 1) * m_metrics.columnAdvance(), m_metrics);
+    const qsizetype digits = row.prefixLength() - 1;
+    return digits < MonospaceMetrics::kTabColumns
+               ? m_metrics.tabDistance()
+               : nextTabStop(digits * m_metrics.columnAdvance(), m_metrics);
 }
 
 std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, CharacterRange range) const
@@ -106,6 +109,14 @@ std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, Characte
                     static_cast<std::size_t>(text.size()));
     return m_lineWidth ? RowExtent{m_breaker.breakMixed(m_buffer, nullptr), 0}
                        : RowExtent{1, widthOf(m_buffer, 0, m_metrics)};
+}
+
+void RowLayouter::prefetch(const AttributedRow& row) const
+{
+    const qsizetype end = m_breaker.columns() - MonospaceMetrics::kTabColumns;
+    if (row.text().size() > end) {
+        __builtin_prefetch(row.text().constData() + std::max<qsizetype>(0, end));
+    }
 }
 
 RowExtent RowLayouter::measureShaped(const AttributedRow& row) const

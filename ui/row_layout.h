@@ -64,6 +64,9 @@ public:
     // is that of its text.
     [[nodiscard]] std::optional<RowExtent> measure(const AttributedRow& row,
                                                    CharacterRange range) const;
+    // Tells the processor to fetch what measuring the row will look at: the place where its first
+    // line ends, if it has more than one.
+    void prefetch(const AttributedRow& row) const;
     // The extent of a row with such characters: takes a text layout, which is slow enough to be
     // worth remembering.
     [[nodiscard]] RowExtent measureShaped(const AttributedRow& row) const;
