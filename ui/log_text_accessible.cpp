@@ -72,6 +72,8 @@ public:
         m_view->scrollToPosition(positionOf(position));
     }
 
+    // The widget's own texts, such as its name, stay what they are.
+    using QAccessibleWidget::text;
     QString text(int start, int end) const override
     {
         LogTextSelection range;

@@ -20,6 +20,8 @@ namespace quillon {
 struct TextPosition {
     qsizetype row = 0;
     qsizetype offset = 0;
+    // NOLINTNEXTLINE(modernize-use-nullptr): clang-tidy 14 takes the comparison's own 0 for a
+    // pointer.
     auto operator<=>(const TextPosition&) const = default;
 };
 

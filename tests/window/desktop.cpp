@@ -52,6 +52,10 @@ QuillonProcess::Environment Desktop::variables() const
         {QStringLiteral("XDG_CURRENT_DESKTOP"), QString()},
         {QStringLiteral("QT_QPA_PLATFORMTHEME"), QString()},
     };
+    // The keyboard library copies names out of the window system's messages by their length, which
+    // a check of whole strings takes for reading past their end.
+    const QString asan = QStringLiteral("ASAN_OPTIONS");
+    variables.append({asan, m_environment.value(asan) + QStringLiteral(":strict_string_checks=0")});
     for (const char* const name : {"DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR"}) {
         const QString variable = QString::fromLatin1(name);
         variables.append({variable, m_environment.value(variable)});

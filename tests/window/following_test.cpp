@@ -68,7 +68,7 @@ TEST_F(Following, RowsThatArriveShowInTheWindowsPixels)
 TEST_F(Following, ClosingTheLastWindowEndsTheProgram)
 {
     QuillonProcess& quillon = startWithLog("a\n", {kFollow});
-    desktop().press(QStringLiteral("alt+F4"));
+    closeByWindowManager(kLogTitle);
     EXPECT_EQ(quillon.wait(), 0);
 }
 
@@ -91,7 +91,7 @@ TEST_F(Following, ClosingTheMainWindowStopsReadingAndLeavesTheFollowToggleOn)
     awaitActive(kPreferencesTitle);
     desktop().activate(desktop().windowTitled(kLogTitle));
     awaitActive(kLogTitle);
-    desktop().press(QStringLiteral("alt+F4"));
+    closeByWindowManager(kLogTitle);
     awaitWindows({kPreferencesTitle});
     writeFromOutside(QStringLiteral("b"));
     spinFor(kSeveralLooks);

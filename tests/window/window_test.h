@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>
@@ -43,9 +44,12 @@ protected:
     [[nodiscard]] QuillonProcess& running() const { return *m_programs.back(); }
 
     // Waits until that window has the keyboard.
-    static void awaitActive(const QString& title);
+    void awaitActive(const QString& title) const;
     // Waits until these windows are on the screen, in any order, and no others.
-    static void awaitWindows(QStringList titles);
+    void awaitWindows(QStringList titles) const;
+
+    // Closes the window that has the keyboard, and that title, with the window manager's own key.
+    void closeByWindowManager(const QString& title) const;
 
     // The running program's window as a screen reader has it; an empty one while there is none.
     [[nodiscard]] AccessibleNode window(const QString& title) const;
@@ -61,6 +65,9 @@ protected:
     void awaitToggle(const QString& name, bool isOn) const;
 
 private:
+    // Waits for the condition, but not for a program that has ended, nor after a first failure.
+    [[nodiscard]] bool await(const std::function<bool()>& condition) const;
+
     static std::unique_ptr<Desktop> s_desktop;
     static std::unique_ptr<ScreenReader> s_screenReader;
 
