@@ -20,8 +20,8 @@ namespace quillon {
 struct TextPosition {
     qsizetype row = 0;
     qsizetype offset = 0;
-    // NOLINTNEXTLINE(modernize-use-nullptr): clang-tidy 14 takes the comparison's own 0 for a
-    // pointer.
+    // clang-tidy 14 takes the 0 inside a defaulted comparison for a pointer.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     auto operator<=>(const TextPosition&) const = default;
 };
 
