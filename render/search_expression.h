@@ -47,7 +47,8 @@ private:
     // is much faster.
     std::optional<AsciiSearch> m_plainWord;
     // Set where every match contains this word, so that only lines that have it need the
-    // expression. Measured on 2 MiB of log with "undefined .* key": 2 ms instead of 10.
+    // expression. Measured on 2 MiB of log with an expression that a sixth of the lines match: 5 ms
+    // instead of 10.
     std::optional<AsciiSearch> m_requiredWord;
 };
 

@@ -25,8 +25,8 @@ class LogTextSelection;
 QColor textColorOn(const Color& color, const QPalette& palette);
 
 // Draws the visible part of a laid-out text. Every row on screen is visited once; the glyphs are
-// gathered by font and colour over the whole screen and drawn together, which takes a tenth of the
-// time of drawing each run for itself.
+// gathered by font and colour over the whole screen and drawn together, since each call for a run
+// of its own costs more than its few glyphs.
 class LogTextPainter {
 public:
     // The references must outlive the painter. `offset` is the point of the text's frame that
