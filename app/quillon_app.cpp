@@ -15,8 +15,18 @@
 #include <QDesktopServices>
 #include <QFileOpenEvent>
 #include <QMenuBar>
+#include <QTimer>
+
+#include <chrono>
 
 namespace quillon {
+
+namespace {
+
+// The icon is drawn in several sizes, which the log would wait for, were it done at once.
+constexpr std::chrono::milliseconds kIconDelay{200};
+
+} // namespace
 
 SharedState& sharedState()
 {
@@ -33,9 +43,10 @@ QuillonApp::QuillonApp(QApplication& application)
     : m_viewModel(sharedLogViewModel()), m_delegate(m_viewModel)
 {
     sharedState().defaults.registerDefaults(defaultPreferences());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/AppIcon.svg")));
     application.installEventFilter(this);
     buildMainWindow();
+    QTimer::singleShot(kIconDelay, this,
+                       [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/AppIcon.svg"))); });
 }
 
 QuillonApp::~QuillonApp() = default;

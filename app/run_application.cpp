@@ -82,6 +82,17 @@ void followDesktopPreference(AppearanceFollower& appearance)
 #endif
 }
 
+// The window is on its way to the screen; until it is asked for its first picture there is time to
+// read the log, so that the picture is not one of an empty window.
+void fillFirstPicture()
+{
+    // Opening, handing the text to the view and laying it out, each queued by the one before.
+    constexpr int kSteps = 3;
+    for (int step = 0; step < kSteps; ++step) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    }
+}
+
 } // namespace
 
 int runApplication(int& argc, char** argv, const CommandLine& commandLine)
@@ -108,6 +119,7 @@ int runApplication(int& argc, char** argv, const CommandLine& commandLine)
         app.delegate().openURLs(request.files);
     }
     app.presentMainWindow();
+    fillFirstPicture();
     return QApplication::exec();
 }
 

@@ -9,6 +9,7 @@
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "ui/log_text_layout.h"
+#include "ui/log_text_view.h"
 #include "ui/theme.h"
 
 #include <QApplication>
@@ -120,6 +121,19 @@ void layOut(benchmark::State& state)
     }
 }
 BENCHMARK(layOut)->Unit(benchmark::kMicrosecond);
+
+void resizeView(benchmark::State& state)
+{
+    LogTextView view{LogTextContent{Styled().text(), true, 13}};
+    view.show();
+    QCoreApplication::processEvents();
+    int width = 760;
+    for (auto _ : state) {
+        width = width == 760 ? 900 : 760;
+        view.resize(width, 700);
+    }
+}
+BENCHMARK(resizeView)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

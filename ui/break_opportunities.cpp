@@ -4,7 +4,6 @@
 #include "ui/displayed_text.h"
 
 #include <QString>
-#include <QTextBoundaryFinder>
 #include <unicode/uchar.h>
 
 #include <algorithm>
@@ -13,16 +12,13 @@ namespace quillon {
 
 namespace {
 
+constexpr char16_t kFirstVisible = u'!';
+constexpr char16_t kLastVisible = u'~';
+
 // How far the text is looked at around a pair that does not decide by itself. Only digits and the
 // marks inside numbers have such reach, and numbers are shorter.
 constexpr qsizetype kReachBefore = 64;
 constexpr qsizetype kReachAfter = 16;
-
-// Neighbourhoods in which a pair can fare differently: parts of numbers with their signs,
-// brackets and separators. None begins the text, where Qt 6.4 overlooks a number.
-constexpr std::array kBefore{u"x ",  u"x",    u"x 1",  u"x (",  u"x 1)",
-                             u"x $", u"x (1", u"x $1", u"x 1,", u"x -"};
-constexpr std::array kAfter{u"", u"x", u"1", u"(", u",1", u"(1", u"$"};
 
 constexpr bool isDigit(QChar character)
 {
@@ -68,55 +64,49 @@ bool isInsideNumber(QStringView text, qsizetype at)
            (isLetter(text[after]) || endsWithText);
 }
 
-bool isBoundary(const QString& text, qsizetype at)
-{
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
-    finder.setPosition(at);
-    return finder.isAtBoundary();
-}
-
 } // namespace
 
-BreakOpportunities::BreakOpportunities() : m_answers(std::make_unique<Table>()) {}
+BreakOpportunities::BreakOpportunities() : m_answers(std::make_unique<Table>())
+{
+    m_isBreakableAfter.fill(true);
+    for (char16_t before = kFirstVisible; before <= kLastVisible; ++before) {
+        m_isBreakableAfter[before] = false;
+        for (char16_t after = kFirstVisible; after <= kLastVisible; ++after) {
+            const PairAnswer answer = answerForAsciiPair(before, after);
+            (*m_answers)[before][after] = answer;
+            m_isBreakableAfter[before] |= answer != PairAnswer::No;
+        }
+    }
+}
 
 BreakOpportunities::~BreakOpportunities() = default;
 
 std::size_t BreakOpportunities::keyOf(char16_t character)
 {
-    if (character < 128) {
+    if (character < kAscii) {
         return character;
     }
-    const auto lineBreakClass = u_getIntPropertyValue(character, UCHAR_LINE_BREAK);
-    return std::min<std::size_t>(128 + static_cast<std::size_t>(lineBreakClass), kKeys - 1);
-}
-
-BreakOpportunities::Answer BreakOpportunities::probe(char16_t before, char16_t after)
-{
-    const QString pair = QString(QChar(before)) + QChar(after);
-    std::size_t breaks = 0;
-    for (const char16_t* const prefix : kBefore) {
-        const QString start = QString::fromUtf16(prefix);
-        for (const char16_t* const suffix : kAfter) {
-            breaks +=
-                isBoundary(start + pair + QString::fromUtf16(suffix), start.size() + 1) ? 1 : 0;
-        }
+    switch (const int lineBreakClass = u_getIntPropertyValue(character, UCHAR_LINE_BREAK)) {
+    // The classes of accented letters and of quotation marks: those of their ASCII like.
+    case U_LB_ALPHABETIC:
+        return u'a';
+    case U_LB_QUOTATION:
+        return u'"';
+    default:
+        return std::min<std::size_t>(kAscii + static_cast<std::size_t>(lineBreakClass), kKeys - 1);
     }
-    if (breaks == 0) {
-        return Answer::No;
-    }
-    return breaks == kBefore.size() * kAfter.size() ? Answer::Yes : Answer::AskAboutText;
 }
 
 bool BreakOpportunities::isBeforeUnusual(QStringView text, qsizetype at) const
 {
     const char16_t before = displayedCharacter(text[at - 1].unicode());
     const char16_t after = displayedCharacter(text[at].unicode());
-    Answer& answer = (*m_answers)[keyOf(before)][keyOf(after)];
-    if (answer == Answer::Unknown) {
-        answer = probe(before, after);
+    PairAnswer& answer = (*m_answers)[keyOf(before)][keyOf(after)];
+    if (answer == PairAnswer::Unknown) {
+        answer = findAnswerForPair(before, after);
     }
-    if (answer != Answer::AskAboutText) {
-        return answer == Answer::Yes;
+    if (answer != PairAnswer::AskAboutText) {
+        return answer == PairAnswer::Yes;
     }
     if (isInsideNumber(text, at)) {
         return false;
@@ -126,7 +116,7 @@ bool BreakOpportunities::isBeforeUnusual(QStringView text, qsizetype at) const
     const qsizetype end = std::min(text.size(), at + kReachAfter);
     const QString lead = QStringLiteral("x ");
     const QString around = text.sliced(start, end - start).toString();
-    return isBoundary(lead + around, lead.size() + at - start);
+    return mayEndLine(lead + around, lead.size() + at - start);
 }
 
 } // namespace quillon

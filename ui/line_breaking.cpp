@@ -25,16 +25,16 @@ LineBreaker::LineBreaker(const MonospaceMetrics& metrics, const BreakOpportuniti
 {
 }
 
-qsizetype LineBreaker::breakUniform(QStringView text, Fixed firstIndent,
-                                    std::vector<qsizetype>* starts) const
+BrokenLines LineBreaker::breakUniform(QStringView text, Fixed firstIndent,
+                                      std::vector<qsizetype>* starts) const
 {
     // Nearly every row's text begins at the first tab stop; dividing for each takes longer than all
     // the rest of a short row.
-    qsizetype available = firstIndent == m_metrics.tabDistance()
-                              ? m_columns - MonospaceMetrics::kTabColumns
-                              : (m_width - firstIndent) / m_metrics.columnAdvance();
-    available = std::max<qsizetype>(0, available);
-    qsizetype lines = 1;
+    qsizetype indent = firstIndent == m_metrics.tabDistance()
+                           ? MonospaceMetrics::kTabColumns
+                           : firstIndent / m_metrics.columnAdvance();
+    qsizetype available = std::max<qsizetype>(0, m_columns - indent);
+    BrokenLines lines;
     qsizetype start = 0;
     bool mayMoveWholeText = firstIndent > 0;
     while (text.size() - start > available) {
@@ -53,13 +53,16 @@ qsizetype LineBreaker::breakUniform(QStringView text, Fixed firstIndent,
             next = lastEnd(text, start, limit).value_or(cut);
         }
         mayMoveWholeText = false;
+        lines.columns = std::max(lines.columns, indent + std::min(next - start, available));
+        indent = 0;
         available = std::max<qsizetype>(1, m_columns);
         start = next;
-        ++lines;
+        ++lines.count;
         if (starts != nullptr) {
             starts->push_back(start);
         }
     }
+    lines.columns = std::max(lines.columns, indent + std::min(text.size() - start, available));
     return lines;
 }
 

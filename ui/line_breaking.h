@@ -13,6 +13,14 @@ namespace quillon {
 class BreakOpportunities;
 class MonospaceMetrics;
 
+// How a text was broken into lines.
+struct BrokenLines {
+    qsizetype count = 1;
+    // Lines of so many columns or more, up to those that it was broken for, are broken at the same
+    // places.
+    qsizetype columns = 0;
+};
+
 // Tells where the visual lines of a displayed row begin, worked out by arithmetic on advances. The
 // rules are QTextLayout's with WrapAtWordBoundaryOrAnywhere: a line ends after white space, which
 // may hang past the width (spaces as many as there are, tabs but one), or where the line breaking
@@ -29,12 +37,13 @@ public:
 
     // For text whose characters all have the column advance, white space being spaces only. Reads
     // no more than the ends of the lines. `firstIndent` is where the first line starts, after a tab
-    // (so that the text may also begin on the next line). Gives the number of lines; where `starts`
-    // is not null, appends the offset at which each line but the first begins.
-    [[nodiscard]] qsizetype breakUniform(QStringView text, Fixed firstIndent,
-                                         std::vector<qsizetype>* starts) const;
+    // (so that the text may also begin on the next line). Where `starts` is not null, appends the
+    // offset at which each line but the first begins.
+    [[nodiscard]] BrokenLines breakUniform(QStringView text, Fixed firstIndent,
+                                           std::vector<qsizetype>* starts) const;
 
-    // For any text without characters that need shaping. Reads all of it.
+    // For any text without characters that need shaping. Reads all of it. Gives the number of
+    // lines; `starts` as above.
     [[nodiscard]] qsizetype breakMixed(QStringView text, std::vector<qsizetype>* starts) const;
 
 private:

@@ -14,7 +14,7 @@ constexpr std::size_t kMaximumCachedRows = 256;
 constexpr qsizetype kLongRow = 65'536;
 // Measuring a row is mostly waiting for its text to come from memory, so that of a later row is
 // sent for meanwhile.
-constexpr qsizetype kPrefetchAhead = 8;
+constexpr std::size_t kPrefetchAhead = 8;
 
 } // namespace
 
@@ -29,8 +29,8 @@ void LogTextLayout::layOut(const AttributedString& text,
     const bool sameRows = text.isExtensionOf(m_text);
     const qsizetype firstRow = sameLines && sameRows ? m_text.rows().size() : 0;
     if (!sameRows) {
-        m_rowRanges.clear();
-        m_rowRanges.reserve(static_cast<std::size_t>(text.rows().size()));
+        m_measures.clear();
+        m_measures.reserve(static_cast<std::size_t>(text.rows().size()));
     }
     if (!sameLines) {
         m_metrics = std::move(metrics);
@@ -44,43 +44,62 @@ void LogTextLayout::layOut(const AttributedString& text,
         return;
     }
     m_cachedRows.clear();
-    m_lineEnds.clear();
     m_width = 0;
     const ShapedExtents known = std::exchange(m_shapedExtents, ShapedExtents());
     measureRowsFrom(0, known);
 }
 
+// First what follows from what is known, then what must be looked at: those rows are known in
+// advance then, and their texts can be sent for.
 void LogTextLayout::measureRowsFrom(qsizetype firstRow, const ShapedExtents& known)
 {
     const auto& rows = m_text.rows();
-    quint32 lines = m_lineEnds.empty() ? 0 : m_lineEnds.back();
-    if (m_lineEnds.empty()) {
-        m_lineEnds.reserve(static_cast<std::size_t>(rows.size()));
-    }
-    for (qsizetype row = firstRow; row < rows.size(); ++row) {
-        if (row + kPrefetchAhead < rows.size()) {
-            m_layouter->prefetch(rows[row + kPrefetchAhead]);
-        }
-        const RowExtent extent = extentOf(row, known);
-        lines += static_cast<quint32>(extent.lineCount);
-        m_lineEnds.push_back(lines);
+    const auto count = static_cast<std::size_t>(rows.size());
+    const auto first = static_cast<std::size_t>(firstRow);
+    m_lineEnds.resize(count);
+    const auto take = [this](std::size_t row, const RowExtent& extent) {
+        m_lineEnds[row] = static_cast<quint32>(extent.lineCount);
         m_width = std::max(m_width, extent.width);
+    };
+    std::vector<std::size_t> unknownRows;
+    const std::size_t measured = std::clamp(m_measures.size(), first, count);
+    for (std::size_t row = first; row < measured; ++row) {
+        if (const auto extent = m_layouter->recall(m_measures[row])) {
+            take(row, *extent);
+        } else {
+            unknownRows.push_back(row);
+        }
+    }
+    for (std::size_t i = 0; i < unknownRows.size(); ++i) {
+        if (i + kPrefetchAhead < unknownRows.size()) {
+            m_layouter->prefetch(rows[static_cast<qsizetype>(unknownRows[i + kPrefetchAhead])]);
+        }
+        take(unknownRows[i], extentOf(unknownRows[i], known));
+    }
+    for (std::size_t row = measured; row < count; ++row) {
+        if (row + kPrefetchAhead < count) {
+            m_layouter->prefetch(rows[static_cast<qsizetype>(row + kPrefetchAhead)]);
+        }
+        m_measures.push_back(RowLayouter::firstLook(rows[static_cast<qsizetype>(row)]));
+        take(row, extentOf(row, known));
+    }
+    quint32 lines = first == 0 ? 0 : m_lineEnds[first - 1];
+    for (std::size_t row = first; row < count; ++row) {
+        lines += m_lineEnds[row];
+        m_lineEnds[row] = lines;
     }
 }
 
-RowExtent LogTextLayout::extentOf(qsizetype index, const ShapedExtents& known)
+RowExtent LogTextLayout::extentOf(std::size_t index, const ShapedExtents& known)
 {
-    const AttributedRow& row = m_text.rows()[index];
-    const auto position = static_cast<std::size_t>(index);
-    if (position == m_rowRanges.size()) {
-        m_rowRanges.push_back(characterRangeOf(row.text()));
-    }
+    const auto position = static_cast<qsizetype>(index);
+    const AttributedRow& row = m_text.rows()[position];
     if (row.text().size() > kLongRow) {
         // It will be looked at soon, being most of the log.
-        const RowLayout& layout = rowLayout(index);
+        const RowLayout& layout = rowLayout(position);
         return m_layouter->extentOf(layout);
     }
-    if (const auto extent = m_layouter->measure(row, m_rowRanges[position])) {
+    if (const auto extent = m_layouter->measure(row, m_measures[index])) {
         return *extent;
     }
     const QChar* const key = row.text().constData();

@@ -34,8 +34,10 @@ struct VisualLine {
 // The layout of a whole text: on which visual line each row begins, exactly and for all rows, while
 // only rows that somebody looks at are laid out in detail. All lines have the same height.
 //
-// A text that extends the one before is laid out from its first new row on; after any other change
-// every row is measured anew, except that rows which need shaping are remembered by their text.
+// A text that extends the one before is laid out from its first new row on; after a change of the
+// line's width or the font only those rows are looked at again whose line count does not follow
+// from what is known of them; after any other change every row is, except that rows which need
+// shaping are remembered by their text.
 class LogTextLayout {
 public:
     LogTextLayout();
@@ -82,7 +84,7 @@ private:
 
     void measureRowsFrom(qsizetype firstRow, const ShapedExtents& known);
     [[nodiscard]] CachedRow& cachedRow(qsizetype row) const;
-    [[nodiscard]] RowExtent extentOf(qsizetype row, const ShapedExtents& known);
+    [[nodiscard]] RowExtent extentOf(std::size_t row, const ShapedExtents& known);
 
     BreakOpportunities m_opportunities;
     AttributedString m_text;
@@ -91,8 +93,8 @@ private:
     std::unique_ptr<RowLayouter> m_layouter;
     // For each row the number of visual lines up to its end.
     std::vector<quint32> m_lineEnds;
-    // The range of each row's characters, known once for as long as the text stays.
-    std::vector<CharacterRange> m_rowRanges;
+    // For each row what has been found out about it, for as long as the text stays.
+    std::vector<RowMeasure> m_measures;
     Fixed m_width = 0;
     ShapedExtents m_shapedExtents;
     // Most recently used first.

@@ -75,6 +75,8 @@ void LogTextView::replaceText()
     if (!m_isReplacementDue) {
         return;
     }
+    updateMetrics();
+    settleVerticalScrollBar();
     m_isReplacementDue = false;
     const bool isExtension = m_content.attributedText.isExtensionOf(m_layout->text());
     layOutText();
@@ -91,19 +93,28 @@ void LogTextView::replaceText()
     announceReplacedLogText(*this);
 }
 
-void LogTextView::layOutText()
+void LogTextView::updateMetrics()
 {
     // Settings may hold any number, also none.
     const double fontSize =
         std::isnan(m_content.fontSize)
             ? LogTextContent().fontSize
             : std::clamp(m_content.fontSize, kMinimumFontSize, kMaximumFontSize);
-    if (!m_metrics || m_metricsSize != fontSize) {
-        m_metricsSize = fontSize;
-        m_metrics = std::make_shared<const MonospaceMetrics>(
-            monospacedSystemFont(m_metricsSize, FontWeight::Regular),
-            monospacedSystemFont(m_metricsSize, FontWeight::Bold));
-    }
+    m_metrics = m_metricsCache.atSize(fontSize);
+}
+
+// Where the rows alone, unbroken, are too many for the clip, the scroll bar is sure to come: once
+// it has come first, lines are broken once, at the width that it leaves.
+void LogTextView::settleVerticalScrollBar()
+{
+    const qint64 height = m_content.attributedText.rows().size() * m_metrics->lineHeight();
+    setVerticalScrollBarPolicy(height > viewport()->height() ? Qt::ScrollBarAlwaysOn
+                                                             : Qt::ScrollBarAsNeeded);
+}
+
+void LogTextView::layOutText()
+{
+    updateMetrics();
     std::optional<Fixed> lineWidth;
     if (m_content.isWrapped) {
         // A whole number of columns, and half a column that rounding may not take away.
@@ -194,6 +205,7 @@ void LogTextView::resizeEvent(QResizeEvent* event)
 
 void LogTextView::fitToClip()
 {
+    settleVerticalScrollBar();
     const QScrollBar* const bar = verticalScrollBar();
     const bool wasAtEnd = bar->value() == bar->maximum();
     const double formerWidth = m_geometry.container().width;

@@ -4,6 +4,7 @@
 #include "render/attributed_string.h"
 #include "ui/log_text_layout.h"
 #include "ui/log_text_selection.h"
+#include "ui/metrics_cache.h"
 #include "ui/text_geometry.h"
 
 #include <QAbstractScrollArea>
@@ -91,6 +92,8 @@ private:
     void scheduleReplacement();
     void replaceText();
     void layOutText();
+    void updateMetrics();
+    void settleVerticalScrollBar();
     void updateScrollBars();
     bool scrollOnKey(const QKeyEvent& event);
     bool extendOnKey(const QKeyEvent& event);
@@ -103,7 +106,7 @@ private:
     LogTextContent m_content;
     bool m_isReplacementDue = false;
     TextGeometry m_geometry;
-    double m_metricsSize = 0;
+    MetricsCache m_metricsCache;
     std::shared_ptr<const MonospaceMetrics> m_metrics;
     std::unique_ptr<LogTextLayout> m_layout;
     LogTextSelection m_selection;

@@ -21,43 +21,54 @@ constexpr char16_t kGapEnd = 0x2010;
 // Room between lines of a log, as a part of the font's own height.
 constexpr double kLineSpacing = 1.15;
 
+// The characters of a range, without those of the smaller ranges.
+QString charactersOf(CharacterRange range)
+{
+    QString characters;
+    for (char16_t character = 0x20; character <= kLastOfRanges; ++character) {
+        if (character == kGapStart) {
+            character = kGapEnd;
+        }
+        const QChar unit(character);
+        if (characterRangeOf(QStringView(&unit, 1)) == range) {
+            characters += unit;
+        }
+    }
+    return characters;
+}
+
 } // namespace
 
 MonospaceMetrics::MonospaceMetrics(const QFont& regular, const QFont& bold)
     : m_faces{Face{regular, QRawFont::fromFont(regular), {}},
-              Face{bold, QRawFont::fromFont(bold), {}}},
-      m_advances(std::size_t{1} << 16)
+              Face{bold, QRawFont::fromFont(bold), {}}}
 {
     const QFontMetricsF metrics(regular);
     m_columnAdvance = std::max<Fixed>(1, toFixed(metrics.horizontalAdvance(u'0')));
     const double fontHeight = metrics.ascent() + metrics.descent();
     m_lineHeight = static_cast<int>(std::ceil(fontHeight * kLineSpacing));
     m_baseline = std::round((m_lineHeight - fontHeight) / 2 + metrics.ascent());
-    m_uniformRange = findUniformRange();
 }
 
 MonospaceMetrics::~MonospaceMetrics() = default;
 
-std::optional<CharacterRange> MonospaceMetrics::findUniformRange() const
+bool MonospaceMetrics::examineUpTo(CharacterRange range) const
 {
-    std::optional<CharacterRange> uniform;
-    for (const CharacterRange range :
+    for (const CharacterRange next :
          {CharacterRange::Ascii, CharacterRange::Latin, CharacterRange::Typographic}) {
-        QString characters;
-        for (char16_t character = 0x20; character <= kLastOfRanges; ++character) {
-            if (character == kGapStart) {
-                character = kGapEnd;
-            }
-            if (isInRange(character, range)) {
-                characters += QChar(character);
-            }
-        }
-        if (!haveColumnAdvance(characters)) {
+        if (next > range || next >= m_mixedRange) {
             break;
         }
-        uniform = range;
+        if (next <= m_uniformRange) {
+            continue;
+        }
+        if (haveColumnAdvance(charactersOf(next))) {
+            m_uniformRange = next;
+        } else {
+            m_mixedRange = next;
+        }
     }
-    return uniform;
+    return range <= m_uniformRange;
 }
 
 // Asks the font itself, not a layout for each character: this runs whenever the size changes.
@@ -81,7 +92,11 @@ const QFont& MonospaceMetrics::font(FontWeight weight) const
 
 std::optional<Fixed> MonospaceMetrics::findAdvance(char16_t character) const
 {
-    std::int32_t& kept = m_advances[character];
+    auto& page = m_advances[character / kPageSize];
+    if (!page) {
+        page = std::make_unique<AdvancePage>();
+    }
+    std::int32_t& kept = (*page)[character % kPageSize];
     if (needsShaping(character) || character == u'\t') {
         kept = kNeedsShaping;
         return std::nullopt;

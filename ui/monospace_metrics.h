@@ -48,7 +48,8 @@ public:
     // The advance of a character, none where it needs shaping or is a tab.
     [[nodiscard]] std::optional<Fixed> advance(char16_t character) const
     {
-        const std::int32_t kept = m_advances[character];
+        const auto& page = m_advances[character / kPageSize];
+        const std::int32_t kept = page ? (*page)[character % kPageSize] : kUnknown;
         if (kept == kNeedsShaping) {
             return std::nullopt;
         }
@@ -56,7 +57,10 @@ public:
     }
 
     // Whether every character of the range has the column advance.
-    [[nodiscard]] bool isUniform(CharacterRange range) const { return range <= m_uniformRange; }
+    [[nodiscard]] bool isUniform(CharacterRange range) const
+    {
+        return range <= m_uniformRange || (range < m_mixedRange && examineUpTo(range));
+    }
     [[nodiscard]] bool isUniform(QStringView text) const
     {
         return isUniform(characterRangeOf(text));
@@ -72,6 +76,7 @@ private:
     static constexpr std::int32_t kUnknown = 0;
     static constexpr std::int32_t kNeedsShaping = -1;
 
+    using AdvancePage = std::array<std::int32_t, kPageSize>;
     struct GlyphPage {
         std::array<Glyph, kPageSize> glyphs{};
         std::array<bool, kPageSize> isKnown{};
@@ -82,7 +87,8 @@ private:
         std::array<std::unique_ptr<GlyphPage>, kPageSize> pages;
     };
 
-    [[nodiscard]] std::optional<CharacterRange> findUniformRange() const;
+    // Finds out about the ranges up to this one, and tells whether it is uniform.
+    bool examineUpTo(CharacterRange range) const;
     [[nodiscard]] bool haveColumnAdvance(const QString& characters) const;
     [[nodiscard]] std::optional<Fixed> findAdvance(char16_t character) const;
     [[nodiscard]] Glyph findGlyph(char16_t character, const Face& face) const;
@@ -90,12 +96,15 @@ private:
 
     mutable std::array<Face, 2> m_faces;
     mutable std::vector<QRawFont> m_fonts;
-    // One for each UTF-16 unit; a character without width of its own is kept as the narrowest.
-    mutable std::vector<std::int32_t> m_advances;
+    // By UTF-16 unit; a character without width of its own is kept as the narrowest.
+    mutable std::array<std::unique_ptr<AdvancePage>, kPageSize> m_advances;
     Fixed m_columnAdvance;
     int m_lineHeight;
     double m_baseline;
-    std::optional<CharacterRange> m_uniformRange;
+    // The largest range known to be uniform, and the smallest known not to be. Asked from the font
+    // only once a text has such characters.
+    mutable std::optional<CharacterRange> m_uniformRange;
+    mutable CharacterRange m_mixedRange = CharacterRange::Any;
 };
 
 } // namespace quillon

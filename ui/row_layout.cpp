@@ -41,6 +41,13 @@ qsizetype pieceEnd(QStringView text, qsizetype start)
     return text[limit].isLowSurrogate() ? limit - 1 : limit;
 }
 
+// Columns before the row's text: its number and a tab.
+qsizetype indentOf(const AttributedRow& row)
+{
+    const qsizetype digits = row.prefixLength() - 1;
+    return (digits / MonospaceMetrics::kTabColumns + 1) * MonospaceMetrics::kTabColumns;
+}
+
 } // namespace
 
 std::size_t RowLayout::fragmentAt(qsizetype offset) const
@@ -74,29 +81,24 @@ bool RowLayouter::needsLayout(QStringView text) const
     });
 }
 
-Fixed RowLayouter::indentOf(const AttributedRow& row) const
+RowMeasure RowLayouter::firstLook(const AttributedRow& row)
 {
-    const qsizetype digits = row.prefixLength() - 1;
-    return digits < MonospaceMetrics::kTabColumns
-               ? m_metrics.tabDistance()
-               : nextTabStop(digits * m_metrics.columnAdvance(), m_metrics);
+    const qsizetype columns = indentOf(row) + row.text().size();
+    constexpr qsizetype kMost = std::numeric_limits<quint32>::max();
+    return RowMeasure{.columns = static_cast<quint32>(std::min(columns, kMost)),
+                      .range = characterRangeOf(row.text()),
+                      .lineCounts = {}};
 }
 
-std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, CharacterRange range) const
+std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, RowMeasure& measure) const
 {
+    if (const auto known = recall(measure)) {
+        return known;
+    }
     const QString& text = row.text();
-    if (m_metrics.isUniform(range)) {
-        const Fixed indent = indentOf(row);
-        const Fixed width = indent + text.size() * m_metrics.columnAdvance();
-        if (!m_lineWidth) {
-            return RowExtent{1, width};
-        }
-        if (width <= *m_lineWidth) {
-            return RowExtent{1, 0};
-        }
-        if (indent < *m_lineWidth) {
-            return RowExtent{m_breaker.breakUniform(text, indent, nullptr), 0};
-        }
+    if (m_metrics.isUniform(measure.range) &&
+        indentOf(row) * m_metrics.columnAdvance() < *m_lineWidth) {
+        return measureUniform(row, measure);
     }
     if (needsLayout(text)) {
         return std::nullopt;
@@ -109,6 +111,19 @@ std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, Characte
                     static_cast<std::size_t>(text.size()));
     return m_lineWidth ? RowExtent{m_breaker.breakMixed(m_buffer, nullptr), 0}
                        : RowExtent{1, widthOf(m_buffer, 0, m_metrics)};
+}
+
+RowExtent RowLayouter::measureUniform(const AttributedRow& row, RowMeasure& measure) const
+{
+    const qsizetype indent = indentOf(row);
+    const BrokenLines lines =
+        m_breaker.breakUniform(row.text(), indent * m_metrics.columnAdvance(), nullptr);
+    // A row that takes two lines takes two until it fits on one. (Spaces at its end may hang, so
+    // that it fits sooner.)
+    const bool staysTwo = lines.count == 2 && !row.text().endsWith(u' ');
+    measure.lineCounts.add(std::max(lines.columns, indent + 1),
+                           staysTwo ? measure.columns - 1 : m_breaker.columns(), lines.count);
+    return RowExtent{lines.count, 0};
 }
 
 void RowLayouter::prefetch(const AttributedRow& row) const

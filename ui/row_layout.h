@@ -3,6 +3,8 @@
 
 #include "ui/character_range.h"
 #include "ui/line_breaking.h"
+#include "ui/monospace_metrics.h"
+#include "ui/row_measure.h"
 #include "ui/text_units.h"
 
 #include <QString>
@@ -18,7 +20,6 @@ namespace quillon {
 
 class AttributedRow;
 class BreakOpportunities;
-class MonospaceMetrics;
 
 // How much room a row takes.
 struct RowExtent {
@@ -60,10 +61,27 @@ public:
     RowLayouter(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
                 std::optional<Fixed> lineWidth);
 
-    // The row's extent by arithmetic; none where the row has characters that need shaping. `range`
-    // is that of its text.
+    // What there is to know of a row before it has been measured. The same for all layouters.
+    [[nodiscard]] static RowMeasure firstLook(const AttributedRow& row);
+    // The extent of a row as far as it follows from its measure, without a look at the row.
+    [[nodiscard]] std::optional<RowExtent> recall(const RowMeasure& measure) const
+    {
+        if (!m_metrics.isUniform(measure.range)) {
+            return std::nullopt;
+        }
+        if (!m_lineWidth) {
+            return RowExtent{1, measure.columns * m_metrics.columnAdvance()};
+        }
+        if (measure.columns <= m_breaker.columns()) {
+            return RowExtent{1, 0};
+        }
+        const std::optional<qsizetype> lines = measure.lineCounts.at(m_breaker.columns());
+        return lines ? std::optional(RowExtent{*lines, 0}) : std::nullopt;
+    }
+    // The row's extent by arithmetic; none where the row has characters that need shaping. Notes in
+    // `measure`, which is the row's, what has been found out.
     [[nodiscard]] std::optional<RowExtent> measure(const AttributedRow& row,
-                                                   CharacterRange range) const;
+                                                   RowMeasure& measure) const;
     // Tells the processor to fetch what measuring the row will look at: the place where its first
     // line ends, if it has more than one.
     void prefetch(const AttributedRow& row) const;
@@ -89,7 +107,7 @@ private:
     void appendShapedLines(RowLayout& layout, const RowFragment& piece) const;
     [[nodiscard]] std::vector<RowFragment> pieces(QStringView text) const;
     [[nodiscard]] bool needsLayout(QStringView text) const;
-    [[nodiscard]] Fixed indentOf(const AttributedRow& row) const;
+    [[nodiscard]] RowExtent measureUniform(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] std::unique_ptr<QTextLayout> makeLayout(const QString& text) const;
 
     const MonospaceMetrics& m_metrics;

@@ -101,6 +101,16 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
                : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
+QIcon Style::standardIcon(StandardPixmap kind, const QStyleOption* option,
+                          const QWidget* widget) const
+{
+    // A menu bar asks for it when it is made, which would have the picture and a library to read it
+    // loaded before the window shows; it is for menus that do not fit, and ours do.
+    return kind == SP_ToolBarHorizontalExtensionButton
+               ? QIcon()
+               : QProxyStyle::standardIcon(kind, option, widget);
+}
+
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const
 {

@@ -22,6 +22,8 @@ public:
                                        SubControl part, const QWidget* widget) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                 QStyleHintReturn* returned) const override;
+    [[nodiscard]] QIcon standardIcon(StandardPixmap kind, const QStyleOption* option = nullptr,
+                                     const QWidget* widget = nullptr) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

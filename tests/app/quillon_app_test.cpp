@@ -66,7 +66,7 @@ TEST_F(QuillonAppTest, EveryPreferenceHasItsDefaultOnceItIsBuilt)
 
 TEST_F(QuillonAppTest, TheProgramHasAnIcon)
 {
-    EXPECT_FALSE(QApplication::windowIcon().pixmap(64, 64).isNull());
+    EXPECT_TRUE(spinUntil([] { return !QApplication::windowIcon().pixmap(64, 64).isNull(); }));
 }
 
 TEST_F(QuillonAppTest, TheOpenCommandPostsItsNotificationOnceAlsoWithoutALog)

@@ -54,9 +54,9 @@ protected:
         const Fixed indent =
             nextTabStop((row.prefixLength() - 1) * metrics->columnAdvance(), *metrics);
         Starts starts{-row.prefixLength()};
-        const qsizetype lines =
+        const BrokenLines lines =
             LineBreaker(*metrics, opportunities, width).breakUniform(row.text(), indent, &starts);
-        EXPECT_EQ(static_cast<std::size_t>(lines), starts.size());
+        EXPECT_EQ(static_cast<std::size_t>(lines.count), starts.size());
         for (qsizetype& start : starts) {
             start += row.prefixLength();
         }

@@ -113,6 +113,25 @@ TEST_F(LogTextLayoutTest, LayingOutAtAnotherWidthOrSizeGivesAFreshLayout)
     }
 }
 
+// What was found out at one width answers for others; it must never answer wrongly.
+TEST_F(LogTextLayoutTest, AWindowDraggedToAndFroGivesFreshLayouts)
+{
+    RandomText random(5);
+    const QStringList lines =
+        excerptLines() + randomLines(random, 300) +
+        QStringList{QStringLiteral("two words   "), QString(40, u'w') + QString(30, u' '),
+                    QString(30, u' ') + QString(40, u'w'),
+                    QStringLiteral("a ") + QString(90, u'w')};
+    const AttributedString text = sampleText(lines);
+    qsizetype width = 60;
+    for (int step = 0; step < 150; ++step) {
+        width = random.below(8) == 0 ? 1 + random.below(150) : width + random.below(9) - 4;
+        width = std::clamp<qsizetype>(width, 1, 150);
+        layout.layOut(text, metrics, columns(width));
+        expectFresh(layout, metrics, columns(width));
+    }
+}
+
 TEST_F(LogTextLayoutTest, OtherTextsAfterAnotherAreLaidOutAnew)
 {
     RandomText random(4);

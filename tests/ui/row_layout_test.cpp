@@ -29,7 +29,8 @@ protected:
 
     [[nodiscard]] static RowExtent extentOf(const RowLayouter& layouter, const AttributedRow& row)
     {
-        const auto extent = layouter.measure(row, characterRangeOf(row.text()));
+        RowMeasure measure = RowLayouter::firstLook(row);
+        const auto extent = layouter.measure(row, measure);
         return extent ? *extent : layouter.measureShaped(row);
     }
 
