@@ -7,11 +7,19 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <chrono>
 #include <cmath>
 
 namespace quillon {
 
 namespace {
+
+using namespace std::chrono_literals;
+
+// QSettings notes a file's size and time after it has read it, so that of a file that is written
+// meanwhile it keeps the former text and never reads the new one. Whoever writes a settings file is
+// done before this has passed.
+constexpr auto kOutsideQuietPeriod = 50ms;
 
 // An unquoted comma in a hand-edited settings file makes QSettings read a list; as text it is the
 // line that the user wrote.
@@ -51,15 +59,16 @@ QString UserDefaults::standardFilePath()
 }
 
 UserDefaults::UserDefaults(NotificationCenter& center, const QString& filePath)
-    : m_center(center), m_settings(filePath, QSettings::IniFormat)
+    : m_center(center), m_settings(filePath, QSettings::IniFormat),
+      m_outsideChanges(kOutsideQuietPeriod, [this] { reloadAfterOutsideChange(); })
 {
     m_stored = readStored();
     watchFile();
-    const auto reload = [this] {
-        reloadAfterOutsideChange();
+    const auto changed = [this] {
+        m_outsideChanges.trigger();
     };
-    QObject::connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_settings, reload);
-    QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settings, reload);
+    QObject::connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_settings, changed);
+    QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settings, changed);
 }
 
 UserDefaults::~UserDefaults() = default;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/debouncer.h"
+
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QList>
@@ -60,6 +62,7 @@ private:
     QHash<QString, QVariant> m_stored;
     QHash<QString, QVariant> m_registered;
     QFileSystemWatcher m_watcher;
+    Debouncer m_outsideChanges;
 };
 
 } // namespace quillon
