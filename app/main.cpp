@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/command_line.h"
+#include "app/open_window.h"
 #include "app/print_mode.h"
-#include "app/run_application.h"
 
 #include <QStringList>
 
@@ -57,5 +57,5 @@ int main(int argc, char** argv)
     case CommandLine::Action::OpenWindow:
         break;
     }
-    return quillon::runApplication(argc, argv, commandLine);
+    return quillon::openWindow(argc, argv, commandLine);
 }

@@ -61,9 +61,9 @@ RowPrinter::AppendRow rowFormatFor(const PrintOptions& options)
             appendPlainRow(row, controls, out);
         };
     }
-    const ColorDepth depth = colorDepthOf(qgetenv("COLORTERM"));
-    return [depth, controls](const AttributedRow& row, QByteArray& out) {
-        appendTerminalRow(row, depth, controls, out);
+    TerminalRowFormat format(colorDepthOf(qgetenv("COLORTERM")), controls);
+    return [format](const AttributedRow& row, QByteArray& out) mutable {
+        format.append(row, out);
     };
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/print_row.h"
 
+#include "platform/utf16_block.h"
 #include "render/attributed_string.h"
 
 #include <QStringEncoder>
@@ -37,9 +38,15 @@ QChar pictureOf(QChar control)
 
 void appendUtf8(QStringView text, QByteArray& out)
 {
+    const qsizetype before = out.size();
+    if (isAscii(text.utf16(), text.size())) {
+        out.resize(before + text.size());
+        std::transform(text.utf16(), text.utf16() + text.size(), out.data() + before,
+                       [](char16_t unit) { return static_cast<char>(unit); });
+        return;
+    }
     constexpr qsizetype kMostBytesPerUnit = 3;
     QStringEncoder encoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
-    const qsizetype before = out.size();
     out.resize(before + kMostBytesPerUnit * text.size());
     const char* const end = encoder.appendToBuffer(out.data() + before, text);
     out.resize(end - out.constData());

@@ -9,6 +9,8 @@ namespace quillon {
 
 namespace {
 
+constexpr std::size_t kMostRenditions = 64;
+
 // Moves the terminal from one look to another, by way of plain text.
 void appendChange(const QByteArray& from, const QByteArray& to, QByteArray& out)
 {
@@ -25,22 +27,47 @@ void appendChange(const QByteArray& from, const QByteArray& to, QByteArray& out)
 
 } // namespace
 
-void appendTerminalRow(const AttributedRow& row, ColorDepth depth, ControlCharacters controls,
-                       QByteArray& out)
+TerminalRowFormat::TerminalRowFormat(ColorDepth depth, ControlCharacters controls)
+    : m_depth(depth), m_controls(controls)
 {
-    const QString text = row.string();
-    const qsizetype textEnd = text.size() - 1;
+}
+
+const QByteArray& TerminalRowFormat::rendition(const RunAttributes& attributes)
+{
+    for (const auto& [known, parameters] : m_renditions) {
+        if (known == attributes) {
+            return parameters;
+        }
+    }
+    // Only settings that are changed again and again while a log is followed make so many.
+    if (m_renditions.size() == kMostRenditions) {
+        m_renditions.clear();
+    }
+    return m_renditions.emplace_back(attributes, graphicRendition(attributes, m_depth)).second;
+}
+
+void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
+{
+    const QByteArray prefix = QByteArray::number(row.number()) + '\t';
+    const QStringView text = row.text();
     QByteArray look;
     const std::vector<AttributeRun> runs = row.runs();
     for (const AttributeRun& run : runs) {
-        const qsizetype end = std::min(run.end(), textEnd);
+        const qsizetype end = std::min(run.end(), prefix.size() + text.size());
         if (end <= run.start) {
             continue;
         }
-        const QByteArray wanted = graphicRendition(run.attributes, depth);
+        const QByteArray& wanted = rendition(run.attributes);
         appendChange(look, wanted, out);
         look = wanted;
-        appendText(QStringView(text).sliced(run.start, end - run.start), controls, out);
+        if (run.start < prefix.size()) {
+            out +=
+                QByteArrayView(prefix).sliced(run.start, std::min(end, prefix.size()) - run.start);
+        }
+        const qsizetype textStart = std::max(run.start, prefix.size());
+        if (end > textStart) {
+            appendText(text.sliced(textStart - prefix.size(), end - textStart), m_controls, out);
+        }
     }
     appendChange(look, QByteArray(), out);
     out += '\n';
