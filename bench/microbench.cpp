@@ -63,10 +63,9 @@ BENCHMARK(classifyLines)->Unit(benchmark::kMicrosecond);
 
 void buildRecords(benchmark::State& state)
 {
-    const QString text = decodeText(log());
     for (auto _ : state) {
         LogLines lines;
-        appendParsedText(text, 0, lines);
+        appendParsedBytes(log(), 0, lines);
         benchmark::DoNotOptimize(lines.size());
     }
 }
@@ -78,7 +77,7 @@ struct Styled {
     UserDefaults defaults{center, folder.filePath(QStringLiteral("settings.conf"))};
     LogLines lines;
 
-    Styled() { appendParsedText(decodeText(log()), 0, lines); }
+    Styled() { appendParsedBytes(log(), 0, lines); }
     AttributedString text(const QString& query = QString()) const
     {
         DisplayOptions options;

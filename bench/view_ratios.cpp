@@ -2,7 +2,6 @@
 #include "bench/generated_log.h"
 #include "bench/ratio_table.h"
 #include "bench/reference_view.h"
-#include "model/decode_text.h"
 #include "model/line_builder.h"
 #include "model/log_recompute.h"
 #include "model/log_view_model.h"
@@ -78,7 +77,7 @@ struct Model {
 LogLines linesOf(const QByteArray& bytes)
 {
     LogLines lines;
-    appendParsedText(decodeText(bytes), 0, lines);
+    appendParsedBytes(bytes, 0, lines);
     return lines;
 }
 

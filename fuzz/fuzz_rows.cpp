@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     static const HighlightColors colors = defaultColors();
     const QByteArrayView bytes(data, static_cast<qsizetype>(size));
     LogLines lines;
-    appendParsedText(decodeText(bytes), 0, lines);
+    appendParsedBytes(bytes, 0, lines);
     if (lines.isEmpty()) {
         return 0;
     }

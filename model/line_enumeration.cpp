@@ -48,8 +48,8 @@ bool isOneTerminator(QStringView text)
 
 } // namespace
 
-LineEnumeration::LineEnumeration(QStringView text)
-    : m_rest(isOneTerminator(text) ? QStringView() : text)
+LineEnumeration::LineEnumeration(QStringView text, Scope scope)
+    : m_rest(scope == Scope::Whole && isOneTerminator(text) ? QStringView() : text)
 {
 }
 

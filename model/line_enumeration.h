@@ -3,6 +3,7 @@
 
 #include <QStringView>
 
+#include <cstdint>
 #include <optional>
 
 namespace quillon {
@@ -13,7 +14,11 @@ namespace quillon {
 // only ends what was written before it. The text must outlive the enumeration.
 class LineEnumeration {
 public:
-    explicit LineEnumeration(QStringView text);
+    // Whether the text is all that there is, or a part of it that begins and ends where a line
+    // does.
+    enum class Scope : std::uint8_t { Whole, Part };
+
+    explicit LineEnumeration(QStringView text, Scope scope = Scope::Whole);
 
     // The next line, none after the last one.
     std::optional<QStringView> next();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/log_loading.h"
 
-#include "model/decode_text.h"
 #include "model/line_builder.h"
 #include "model/line_estimate.h"
 
@@ -30,7 +29,7 @@ Result<LoadedLog> loadLog(const QUrl& fileURL, quint64 maximumBytes,
     }
     const qint64 base = start != 0 ? estimateSkippedLines(fileURL, start) : 0;
     LoadedLog log{.lines = {}, .fileSize = size.value()};
-    appendParsedText(decodeText(bytes.value()), base, log.lines);
+    appendParsedBytes(bytes.value(), base, log.lines);
     return log;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/tail_reading.h"
 
-#include "model/decode_text.h"
 #include "model/line_builder.h"
 
 namespace quillon {
@@ -30,7 +29,7 @@ LogLines parseTail(const QByteArray& bytes, const LogLines& lines)
 {
     const qint64 base = lines.isEmpty() ? 0 : lines.last().number();
     LogLines appended;
-    appendParsedText(decodeText(bytes), base, appended);
+    appendParsedBytes(bytes, base, appended);
     return appended;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "model/decode_text.h"
 #include "model/line_builder.h"
 #include "tests/support/printing.h"
+#include "tests/support/random_text.h"
 
 #include <QSet>
 
@@ -91,6 +93,60 @@ TEST(LineBuilder, MakesNoRecordOfNoText)
     LogLines lines;
     appendParsedText(QStringView(), 0, lines);
     EXPECT_TRUE(lines.isEmpty());
+}
+
+// The lines of a text that is decoded in parts must be those of the text decoded whole.
+void expectLinesOfTheWhole(const QByteArray& bytes)
+{
+    LogLines whole;
+    appendParsedText(decodeText(bytes), 7, whole);
+    LogLines parts;
+    appendParsedBytes(bytes, 7, parts);
+    ASSERT_EQ(parts.size(), whole.size());
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        ASSERT_EQ(parts[i].number(), whole[i].number());
+        ASSERT_EQ(parts[i].text(), whole[i].text());
+        ASSERT_EQ(parts[i].severity(), whole[i].severity());
+    }
+}
+
+TEST(LineBuilder, BytesGiveTheLinesOfTheirText)
+{
+    for (const char* const bytes :
+         {"", "\n", "\r\n", "a", "a\n", "\n\n", "\xE2\x80\xA8", "\xC3\n\xA9"}) {
+        expectLinesOfTheWhole(bytes);
+    }
+}
+
+TEST(LineBuilder, ManyBytesGiveTheLinesOfTheirText)
+{
+    RandomText random(20);
+    const QByteArrayList pieces{"\n",           "\n",       "\r",          "\r\n",  "\xC2\x85",
+                                "\xE2\x80\xA8", "\xE2\x80", "\xF0",        "\xFF",  "é",
+                                "日本",         "😀",        "PHP Notice:", "plain "};
+    for (int round = 0; round < 20; ++round) {
+        QByteArray bytes;
+        while (bytes.size() < 100'000) {
+            bytes += pieces[random.below(static_cast<std::uint32_t>(pieces.size()))];
+            if (random.below(50) == 0) {
+                bytes += QByteArray(static_cast<qsizetype>(random.below(50'000)), 'x');
+            }
+        }
+        expectLinesOfTheWhole(bytes);
+    }
+}
+
+TEST(LineBuilder, ATerminatorAloneInItsPartIsALine)
+{
+    for (const qsizetype length : {32'767, 32'768, 32'769, 100'000}) {
+        const QByteArray longLine(length, 'x');
+        expectLinesOfTheWhole("\n" + longLine);
+        expectLinesOfTheWhole(longLine + "\n");
+        expectLinesOfTheWhole(longLine + "\n\n");
+        expectLinesOfTheWhole(longLine + "\r\n" + longLine);
+        expectLinesOfTheWhole(longLine);
+        expectLinesOfTheWhole(QByteArray(length, '\n'));
+    }
 }
 
 } // namespace
