@@ -35,6 +35,13 @@ void RatioTable::add(const QString& name, const PairedTiming& timing, double goa
           QStringLiteral("<= %1 x").arg(goal), timing.ratio <= goal);
 }
 
+void RatioTable::addForComparison(const QString& name, const PairedTiming& timing)
+{
+    printColumns(name, milliseconds(timing.ours), milliseconds(timing.reference),
+                 QString::number(timing.ratio, 'f', 3) + QStringLiteral(" x"), QStringLiteral("-"),
+                 QStringLiteral("-"));
+}
+
 void RatioTable::addSpeedUp(const QString& name, const PairedTiming& timing, double timesFaster)
 {
     print(name, milliseconds(timing.ours), milliseconds(timing.reference),

@@ -14,7 +14,9 @@ public:
 
     // A goal on the ratio of our time to the reference's: at most `goal`.
     void add(const QString& name, const PairedTiming& timing, double goal);
-    // The same, said as so many times faster than the reference.
+    // No goal: a figure to read the others by.
+    void addForComparison(const QString& name, const PairedTiming& timing);
+    // The first again, said as so many times faster than the reference.
     void addSpeedUp(const QString& name, const PairedTiming& timing, double timesFaster);
     // A quantity that is no time: at most `goal`.
     void addQuantity(const QString& name, double value, const QString& unit, double goal);
