@@ -235,6 +235,25 @@ TEST_F(LogTextViewTest, AnEmptyTextCanBeSelectedAndCopiedWithoutEffect)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
 }
 
+TEST_F(LogTextViewTest, TheScrollBarComesAndGoesWithTheRoomForTheRows)
+{
+    show(wrapped(sampleText(manyLines(8))), QSize(900, 400));
+    EXPECT_FALSE(vertical().isVisible());
+    view->resize(900, 60);
+    settle();
+    EXPECT_TRUE(vertical().isVisible());
+    EXPECT_TRUE(isAtEnd());
+    view->resize(900, 400);
+    settle();
+    EXPECT_FALSE(vertical().isVisible());
+    update(wrapped(sampleText(manyLines(100))));
+    EXPECT_TRUE(vertical().isVisible());
+    EXPECT_TRUE(isAtEnd());
+    update(wrapped(sampleText(manyLines(3))));
+    EXPECT_FALSE(vertical().isVisible());
+    EXPECT_EQ(view->viewport()->width(), 900);
+}
+
 TEST_F(LogTextViewTest, AfterAnEmptyTextTheScrollBarsAreBackToNothing)
 {
     show(unwrapped(sampleText(QStringList(100, QString(500, u'w')))));
