@@ -4,6 +4,10 @@
 #include "app/open_window.h"
 #include "app/window_module.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 #include <cstdio>
 #include <dlfcn.h>
 
@@ -13,12 +17,24 @@ namespace {
 
 constexpr int kExitFailure = 1;
 
+// Beside the program, as it is built, or else where it is installed to.
+QByteArray modulePath()
+{
+    const QString name = QStringLiteral(QUILLON_WINDOW_MODULE);
+    const QString program = QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
+    const QDir folder = QFileInfo(program).dir();
+    const QDir installed(folder.filePath(QStringLiteral(QUILLON_WINDOW_FOLDER)));
+    return QFile::encodeName(folder.exists(name) ? folder.filePath(name)
+                                                 : QDir::cleanPath(installed.filePath(name)));
+}
+
 } // namespace
 
 int openWindow(int& argc, char** argv, const CommandLine& commandLine)
 {
-    // Looked for where the program's own run path says: beside it, or where it was installed to.
-    void* const module = ::dlopen(QUILLON_WINDOW_MODULE, RTLD_NOW | RTLD_LOCAL);
+    // By its whole path: which run path a name alone would be looked for along depends on who calls
+    // dlopen() in the end, and a sanitizer comes between.
+    void* const module = ::dlopen(modulePath().constData(), RTLD_NOW | RTLD_LOCAL);
     void* const entry = module != nullptr ? ::dlsym(module, kWindowModuleEntry) : nullptr;
     if (entry == nullptr) {
         std::fprintf(stderr, "quillon: impossible de charger la fenêtre: %s\n", ::dlerror());
