@@ -14,7 +14,7 @@ constexpr std::size_t kMaximumCachedRows = 256;
 constexpr qsizetype kLongRow = 65'536;
 // Measuring a row is mostly waiting for its text to come from memory, so that of a later row is
 // sent for meanwhile.
-constexpr std::size_t kPrefetchAhead = 8;
+constexpr int kPrefetchAhead = 8;
 
 } // namespace
 
@@ -78,7 +78,7 @@ void LogTextLayout::measureRowsFrom(qsizetype firstRow, const ShapedExtents& kno
     }
     for (std::size_t row = measured; row < count; ++row) {
         if (row + kPrefetchAhead < count) {
-            m_layouter->prefetch(rows[static_cast<qsizetype>(row + kPrefetchAhead)]);
+            m_layouter->prefetch(rows[static_cast<qsizetype>(row) + kPrefetchAhead]);
         }
         m_measures.push_back(RowLayouter::firstLook(rows[static_cast<qsizetype>(row)]));
         take(row, extentOf(row, known));

@@ -57,6 +57,9 @@ TEST_F(HandOver, ASecondLaunchWithoutAFileBringsTheWindowToTheFront)
 TEST_F(HandOver, AMissingFileThatIsHandedOverShowsTheOpenError)
 {
     startWithLog("a\n");
+    // The pass that follows the start by some 60 ms writes the status too.
+    ASSERT_TRUE(spinUntil(
+        [this] { return status(kLogTitle).contains(QStringLiteral(" • Affichées: 1")); }));
     EXPECT_EQ(runAgain({QStringLiteral("missing.log")}), 0);
     EXPECT_TRUE(spinUntil([this] {
         return desktop().titles().size() == 1 &&
