@@ -72,13 +72,13 @@ private:
     void writeWordPressEntry()
     {
         const auto kind = random() % 100;
-        if (kind < 90) {
+        if (kind < 84) {
             append(timestamp());
             append(kMessages[random() % kMessages.size()]);
             appendPlace();
-        } else if (kind < 94) {
+        } else if (kind < 89) {
             writeFatal();
-        } else if (kind < 96) {
+        } else if (kind < 95) {
             writeDump();
         } else if (kind < 99) {
             writeLine(kFrench[random() % kFrench.size()]);

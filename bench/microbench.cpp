@@ -77,7 +77,7 @@ struct Styled {
     UserDefaults defaults{center, folder.filePath(QStringLiteral("settings.conf"))};
     LogLines lines;
 
-    Styled() { appendParsedBytes(log(), 0, lines); }
+    explicit Styled(const QByteArray& bytes = log()) { appendParsedBytes(bytes, 0, lines); }
     AttributedString text(const QString& query = QString()) const
     {
         DisplayOptions options;
@@ -106,11 +106,44 @@ void workOutRuns(benchmark::State& state)
 }
 BENCHMARK(workOutRuns)->Unit(benchmark::kMicrosecond);
 
+std::shared_ptr<const MonospaceMetrics> usualMetrics()
+{
+    return std::make_shared<const MonospaceMetrics>(monospacedSystemFont(13, FontWeight::Regular),
+                                                    monospacedSystemFont(13, FontWeight::Bold));
+}
+
+void layOutAnew(benchmark::State& state, bench::Prose prose)
+{
+    const AttributedString text = Styled(bench::generatedLog(kLogBytes, prose)).text();
+    const auto metrics = usualMetrics();
+    LogTextLayout layout;
+    for (auto _ : state) {
+        layout.layOut(AttributedString(), metrics, std::nullopt);
+        layout.layOut(text, metrics, 120 * metrics->columnAdvance());
+    }
+}
+BENCHMARK_CAPTURE(layOutAnew, WordPress, bench::Prose::WordPress)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(layOutAnew, French, bench::Prose::French)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(layOutAnew, Chinese, bench::Prose::Chinese)->Unit(benchmark::kMicrosecond);
+
+// A log that is a single line.
+void layOutOneLine(benchmark::State& state)
+{
+    QByteArray bytes = log();
+    const AttributedString text = Styled(bytes.replace('\n', ' ')).text();
+    const auto metrics = usualMetrics();
+    LogTextLayout layout;
+    for (auto _ : state) {
+        layout.layOut(AttributedString(), metrics, std::nullopt);
+        layout.layOut(text, metrics, 120 * metrics->columnAdvance());
+    }
+}
+BENCHMARK(layOutOneLine)->Unit(benchmark::kMicrosecond);
+
 void layOut(benchmark::State& state)
 {
     const AttributedString text = Styled().text();
-    const auto metrics = std::make_shared<const MonospaceMetrics>(
-        monospacedSystemFont(13, FontWeight::Regular), monospacedSystemFont(13, FontWeight::Bold));
+    const auto metrics = usualMetrics();
     const Fixed column = metrics->columnAdvance();
     Fixed columns = 100;
     LogTextLayout layout;

@@ -25,9 +25,12 @@ constexpr bool isDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
-constexpr bool isLetter(QChar character)
+// What no number goes on behind or before: letters and the marks that are no part of any.
+constexpr bool isNoNumber(QChar character)
 {
-    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
+    constexpr QStringView kMarks = u"!?\"'#&*<=>@^_`~|";
+    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z') ||
+           kMarks.contains(character);
 }
 
 constexpr bool isSeparator(QChar character)
@@ -42,7 +45,7 @@ constexpr bool isNumeric(QChar character)
 }
 
 // The most usual case by far, in times, versions and addresses: behind a separator between two
-// digits. Brackets next to the number may still break it up, so it has to stand between letters.
+// digits. Brackets next to the number may still break it up, so it has to stand between others.
 bool isInsideNumber(QStringView text, qsizetype at)
 {
     if (at < 2 || !isDigit(text[at]) || !isSeparator(text[at - 1]) || !isDigit(text[at - 2])) {
@@ -60,8 +63,8 @@ bool isInsideNumber(QStringView text, qsizetype at)
     }
     const QChar lead = text[before];
     const bool endsWithText = after == text.size() - 1 && isDigit(text[after]);
-    return (isLetter(lead) || lead == u'-' || lead == u'[') &&
-           (isLetter(text[after]) || endsWithText);
+    return (isNoNumber(lead) || lead == u'-' || lead == u'[') &&
+           (isNoNumber(text[after]) || endsWithText);
 }
 
 } // namespace
@@ -95,6 +98,17 @@ std::size_t BreakOpportunities::keyOf(char16_t character)
     default:
         return std::min<std::size_t>(kAscii + static_cast<std::size_t>(lineBreakClass), kKeys - 1);
     }
+}
+
+std::optional<qsizetype> BreakOpportunities::lastIn(QStringView text, qsizetype start,
+                                                    qsizetype limit) const
+{
+    for (qsizetype at = limit; at > start; --at) {
+        if (isBreakableSpace(text[at - 1].unicode()) || isBefore(text, at)) {
+            return at;
+        }
+    }
+    return std::nullopt;
 }
 
 bool BreakOpportunities::isBeforeUnusual(QStringView text, qsizetype at) const

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 namespace quillon {
 
@@ -40,6 +41,10 @@ public:
         }
         return isBeforeUnusual(text, at);
     }
+    // The last place after `start`, at or before `limit` < text.size(), where a line may end:
+    // behind white space or inside a word.
+    [[nodiscard]] std::optional<qsizetype> lastIn(QStringView text, qsizetype start,
+                                                  qsizetype limit) const;
 
 private:
     static constexpr char16_t kAscii = 128;

@@ -38,7 +38,8 @@ CharacterRange rangeOf(char16_t character)
     return CharacterRange::Any;
 }
 
-// The length of the text's beginning, in whole blocks, that is of range Ascii.
+} // namespace
+
 qsizetype asciiBlocks(QStringView text)
 {
     const char16_t* const units = text.utf16();
@@ -52,8 +53,6 @@ qsizetype asciiBlocks(QStringView text)
     }
     return at;
 }
-
-} // namespace
 
 CharacterRange characterRangeOf(QStringView text)
 {

@@ -19,6 +19,10 @@ enum class CharacterRange : std::uint8_t {
 // The range of a text. A long text of range Any is not read to its end.
 CharacterRange characterRangeOf(QStringView text);
 
+// The length of the text's beginning that is of range Ascii, in whole blocks of eight UTF-16 units,
+// which are looked at together.
+qsizetype asciiBlocks(QStringView text);
+
 // Whether the character is in the range, which is not Any.
 bool isInRange(char16_t character, CharacterRange range);
 

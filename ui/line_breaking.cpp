@@ -50,7 +50,7 @@ BrokenLines LineBreaker::breakUniform(QStringView text, Fixed firstIndent,
             }
         } else {
             const qsizetype cut = mayMoveWholeText ? start : std::max(limit, start + 1);
-            next = lastEnd(text, start, limit).value_or(cut);
+            next = m_opportunities.lastIn(text, start, limit).value_or(cut);
         }
         mayMoveWholeText = false;
         lines.columns = std::max(lines.columns, indent + std::min(next - start, available));
@@ -97,7 +97,7 @@ qsizetype LineBreaker::lineEnd(QStringView text, qsizetype start) const
             const Fixed right = x + m_metrics.advance(character).value_or(0);
             if (character != u' ' && right > m_width) {
                 if (content) {
-                    return lastEnd(text, *content, at).value_or(at);
+                    return m_opportunities.lastIn(text, *content, at).value_or(at);
                 }
                 if (isFull) {
                     return at;
@@ -110,17 +110,6 @@ qsizetype LineBreaker::lineEnd(QStringView text, qsizetype start) const
         }
     }
     return text.size();
-}
-
-std::optional<qsizetype> LineBreaker::lastEnd(QStringView text, qsizetype start,
-                                              qsizetype limit) const
-{
-    for (qsizetype at = limit; at > start; --at) {
-        if (isBreakableSpace(text[at - 1].unicode()) || m_opportunities.isBefore(text, at)) {
-            return at;
-        }
-    }
-    return std::nullopt;
 }
 
 Fixed nextTabStop(Fixed x, const MonospaceMetrics& metrics)

@@ -49,9 +49,6 @@ public:
 private:
     // Where the line that begins at `start` ends, in text such as breakMixed takes.
     [[nodiscard]] qsizetype lineEnd(QStringView text, qsizetype start) const;
-    // The last place after `start`, at or before `limit`, where a line may end.
-    [[nodiscard]] std::optional<qsizetype> lastEnd(QStringView text, qsizetype start,
-                                                   qsizetype limit) const;
 
     const MonospaceMetrics& m_metrics;
     const BreakOpportunities& m_opportunities;

@@ -77,10 +77,7 @@ void LogTextLayout::measureRowsFrom(qsizetype firstRow, const ShapedExtents& kno
         take(unknownRows[i], extentOf(unknownRows[i], known));
     }
     for (std::size_t row = measured; row < count; ++row) {
-        if (row + kPrefetchAhead < count) {
-            m_layouter->prefetch(rows[static_cast<qsizetype>(row) + kPrefetchAhead]);
-        }
-        m_measures.push_back(RowLayouter::firstLook(rows[static_cast<qsizetype>(row)]));
+        m_measures.push_back(m_layouter->firstLook(rows[static_cast<qsizetype>(row)]));
         take(row, extentOf(row, known));
     }
     quint32 lines = first == 0 ? 0 : m_lineEnds[first - 1];

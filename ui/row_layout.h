@@ -61,8 +61,9 @@ public:
     RowLayouter(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
                 std::optional<Fixed> lineWidth);
 
-    // What there is to know of a row before it has been measured. The same for all layouters.
-    [[nodiscard]] static RowMeasure firstLook(const AttributedRow& row);
+    // What there is to know of a row before it is measured for the first time. Holds for all
+    // layouters. Reads the whole row.
+    [[nodiscard]] RowMeasure firstLook(const AttributedRow& row) const;
     // The extent of a row as far as it follows from its measure, without a look at the row.
     [[nodiscard]] std::optional<RowExtent> recall(const RowMeasure& measure) const
     {
@@ -107,10 +108,12 @@ private:
     void appendShapedLines(RowLayout& layout, const RowFragment& piece) const;
     [[nodiscard]] std::vector<RowFragment> pieces(QStringView text) const;
     [[nodiscard]] bool needsLayout(QStringView text) const;
+    void foresee(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] RowExtent measureUniform(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] std::unique_ptr<QTextLayout> makeLayout(const QString& text) const;
 
     const MonospaceMetrics& m_metrics;
+    const BreakOpportunities& m_opportunities;
     std::optional<Fixed> m_lineWidth;
     LineBreaker m_breaker;
     mutable std::u16string m_buffer;

@@ -9,7 +9,7 @@ namespace quillon {
 void KnownLineCounts::add(qsizetype from, qsizetype to, qsizetype lines)
 {
     constexpr qsizetype kWidest = std::numeric_limits<quint16>::max();
-    if (from > kWidest || lines > std::numeric_limits<qint32>::max()) {
+    if (from > std::min(to, kWidest) || lines > std::numeric_limits<qint32>::max()) {
         return;
     }
     const Span added{static_cast<quint16>(from), static_cast<quint16>(std::min(to, kWidest)),

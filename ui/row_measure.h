@@ -28,7 +28,8 @@ public:
     }
 
     // Notes that the row takes so many lines at all widths from `from` to `to` columns. The two
-    // latest line counts are kept. Widths above 65,535 columns are not noted.
+    // latest line counts are kept. Widths above 65,535 columns are not noted, and nothing is where
+    // there is no such width.
     void add(qsizetype from, qsizetype to, qsizetype lines);
 
 private:

@@ -162,6 +162,23 @@ TEST_F(LineBreaking, NumbersWithSignsAndBracketsBreakLikeATextLayout)
     }
 }
 
+TEST_F(LineBreaking, NumbersBetweenMarksBreakLikeATextLayout)
+{
+    RandomText random(12);
+    const QString digits = QStringLiteral("0123456789.,:;/ ");
+    const QString marks = QStringLiteral("aZ!?\"'#&*<=>@^_`~|-[ ");
+    for (int i = 0; i < 6000; ++i) {
+        QString line;
+        const std::uint32_t length = random.below(40);
+        for (std::uint32_t at = 0; at < length; ++at) {
+            const QString& characters = random.below(4) == 0 ? marks : digits;
+            line += characters[random.below(static_cast<std::uint32_t>(characters.size()))];
+        }
+        const int columns = kColumns[random.below(kColumns.size())];
+        ASSERT_TRUE(breaksLikeATextLayout(sampleRow(line, 1 + random.below(99)), columns));
+    }
+}
+
 TEST_F(LineBreaking, RunsOfSpacesHangPastTheWidth)
 {
     for (qsizetype spaces = 0; spaces < 30; ++spaces) {

@@ -124,7 +124,10 @@ TEST_F(LogTextLayoutTest, AWindowDraggedToAndFroGivesFreshLayouts)
                     QStringLiteral("a ") + QString(90, u'w')};
     const AttributedString text = sampleText(lines);
     qsizetype width = 60;
-    for (int step = 0; step < 150; ++step) {
+    for (int step = 0; step < 200; ++step) {
+        if (step % 40 == 0) {
+            layout.layOut(AttributedString(), metrics, columns(width));
+        }
         width = random.below(8) == 0 ? 1 + random.below(150) : width + random.below(9) - 4;
         width = std::clamp<qsizetype>(width, 1, 150);
         layout.layOut(text, metrics, columns(width));

@@ -29,7 +29,7 @@ protected:
 
     [[nodiscard]] static RowExtent extentOf(const RowLayouter& layouter, const AttributedRow& row)
     {
-        RowMeasure measure = RowLayouter::firstLook(row);
+        RowMeasure measure = layouter.firstLook(row);
         const auto extent = layouter.measure(row, measure);
         return extent ? *extent : layouter.measureShaped(row);
     }

@@ -41,6 +41,18 @@ TEST(KnownLineCounts, KeepsTheTwoLatestCounts)
     EXPECT_EQ(counts.at(85), 2);
 }
 
+TEST(KnownLineCounts, AnEmptyRangeOfWidthsTellsNothing)
+{
+    KnownLineCounts counts;
+    counts.add(50, 79, 3);
+    counts.add(90, 79, 2);
+    counts.add(90, 79, 4);
+    EXPECT_EQ(counts.at(60), 3);
+    EXPECT_EQ(counts.at(79), 3);
+    EXPECT_EQ(counts.at(85), std::nullopt);
+    EXPECT_EQ(counts.at(90), std::nullopt);
+}
+
 TEST(KnownLineCounts, DoesNotNoteWidthsThatItCannotHold)
 {
     KnownLineCounts counts;
