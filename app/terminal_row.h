@@ -4,7 +4,8 @@
 #include "app/print_row.h"
 #include "app/terminal_color.h"
 
-#include <utility>
+#include <QByteArray>
+
 #include <vector>
 
 namespace quillon {
@@ -19,12 +20,20 @@ public:
     void append(const AttributedRow& row, QByteArray& out);
 
 private:
-    // graphicRendition(), kept per look: a log has a dozen, and some five runs a row.
-    const QByteArray& rendition(const RunAttributes& attributes);
+    // A look as the terminal has it. The escape sequences are kept whole: a log has a dozen looks,
+    // and some five runs a row.
+    struct Look {
+        RunAttributes attributes;
+        QByteArray parameters; // as graphicRendition() gives them
+        QByteArray fromPlain;  // the sequence that leads to it from plain text
+        QByteArray fromOther;  // and from any other look
+    };
+
+    const Look& lookOf(const RunAttributes& attributes);
 
     ColorDepth m_depth;
     ControlCharacters m_controls;
-    std::vector<std::pair<RunAttributes, QByteArray>> m_renditions;
+    std::vector<Look> m_looks;
 };
 
 } // namespace quillon
