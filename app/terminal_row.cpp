@@ -15,6 +15,15 @@ namespace {
 constexpr std::size_t kMostLooks = 64;
 constexpr QByteArrayView kToPlain("\x1B[0m");
 
+// A search that found its place in the lower-cased row may end between the halves of a character,
+// which encoded by themselves would be no text. The first run takes it whole.
+qsizetype wholeCharacterEnd(QStringView text, qsizetype end)
+{
+    const bool isBetween = end > 0 && end < text.size() && text[end - 1].isHighSurrogate() &&
+                           text[end].isLowSurrogate();
+    return isBetween ? end + 1 : end;
+}
+
 } // namespace
 
 TerminalRowFormat::TerminalRowFormat(ColorDepth depth, ControlCharacters controls)
@@ -50,10 +59,13 @@ void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
     const QByteArrayView prefix(number.data(), numberEnd + 1);
     const QStringView text = row.text();
     QByteArray parameters; // of the look that the terminal has
+    qsizetype written = 0; // UTF-16 units of the text
     const std::vector<AttributeRun> runs = row.runs();
     for (const AttributeRun& run : runs) {
-        const qsizetype end = std::min(run.end(), prefix.size() + text.size());
-        if (end <= run.start) {
+        const qsizetype textEnd =
+            wholeCharacterEnd(text, std::min(run.end() - prefix.size(), text.size()));
+        const bool hasPrefix = run.start < prefix.size();
+        if (!hasPrefix && textEnd <= written) {
             continue;
         }
         const Look& look = lookOf(run.attributes);
@@ -61,12 +73,12 @@ void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
             out += parameters.isEmpty() ? look.fromPlain : look.fromOther;
             parameters = look.parameters;
         }
-        if (run.start < prefix.size()) {
-            out += prefix.sliced(run.start, std::min(end, prefix.size()) - run.start);
+        if (hasPrefix) {
+            out += prefix.sliced(run.start, std::min(run.end(), prefix.size()) - run.start);
         }
-        const qsizetype textStart = std::max(run.start, prefix.size());
-        if (end > textStart) {
-            appendText(text.sliced(textStart - prefix.size(), end - textStart), m_controls, out);
+        if (textEnd > written) {
+            appendText(text.sliced(written, textEnd - written), m_controls, out);
+            written = textEnd;
         }
     }
     if (!parameters.isEmpty()) {

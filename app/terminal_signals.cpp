@@ -17,6 +17,12 @@ volatile std::sig_atomic_t arrivedSignal = 0;
 
 extern "C" void rememberSignal(int number)
 {
+    // Whoever sends a second one, be it the other of the two, does not want to wait.
+    if (arrivedSignal != 0) {
+        std::signal(number, SIG_DFL);
+        std::raise(number);
+        return;
+    }
     const int formerError = errno;
     arrivedSignal = number;
     const auto byte = static_cast<unsigned char>(number);
@@ -31,7 +37,7 @@ struct sigaction handlerAction()
     action.sa_handler = rememberSignal;
     sigemptyset(&action.sa_mask);
     // No SA_RESTART: a write that nobody reads from would wait for ever.
-    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    action.sa_flags = 0;
     return action;
 }
 

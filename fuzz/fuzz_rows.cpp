@@ -2,8 +2,8 @@
 // Any bytes as a log, and their first line as the search: from bytes to lines to styled rows to
 // what print mode writes. Rows must stay whole and their runs must cover them.
 //
-//   CC=clang CXX=clang++ cmake -S . -B build/fuzz -G Ninja -DQUILLON_BUILD_FUZZ=ON \
-//       -DQUILLON_BUILD_TESTS=OFF -DQUILLON_SANITIZE=ON
+//   export CC=clang CXX=clang++ flags="-DQUILLON_BUILD_TESTS=OFF -DQUILLON_SANITIZE=ON"
+//   cmake -S . -B build/fuzz -G Ninja -DQUILLON_BUILD_FUZZ=ON $flags
 //   cmake --build build/fuzz --target quillon_fuzz_rows
 //   build/fuzz/quillon_fuzz_rows -max_len=4096 build/fuzz/corpus samples
 #include "app/json_row.h"
@@ -51,7 +51,7 @@ void checkOutputs(const AttributedRow& row)
     QByteArray text;
     appendPlainRow(row, ControlCharacters::AsPictures, text);
     require(!text.contains('\x1B') && text.endsWith('\n'));
-    appendTerminalRow(row, ColorDepth::Indexed256, ControlCharacters::AsPictures, text);
+    TerminalRowFormat(ColorDepth::Indexed256, ControlCharacters::AsPictures).append(row, text);
 }
 
 HighlightColors defaultColors()
