@@ -15,7 +15,6 @@ public:
     Debouncer(std::chrono::milliseconds quietPeriod, std::function<void()> action);
 
     void trigger();
-    [[nodiscard]] bool isPending() const { return m_timer.isActive(); }
 
 private:
     QTimer m_timer;

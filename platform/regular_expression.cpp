@@ -1,24 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "platform/regular_expression.h"
 
+#include "platform/leading_wildcard.h"
+#include "platform/matching_budget.h"
+
 #include <unicode/uregex.h>
 
 namespace quillon {
 
 namespace {
 
-// The engine reports in once per this many steps (uregex_setMatchCallback), so a match that needs
-// fewer is never counted: ordinary expressions over any number of lines cost nothing here.
-constexpr int kStepsPerReport = 10'000;
-// About a second of backtracking on a slow machine.
-constexpr int kMaximumReports = 200'000'000 / kStepsPerReport / 4;
 constexpr int32_t kMaximumStackBytes = 8 * 1024 * 1024;
+
+// In UTF-16 units; 1 at the text's end too.
+qsizetype characterLength(QStringView text, qsizetype at)
+{
+    return at + 1 < text.size() && text[at].isHighSurrogate() && text[at + 1].isLowSurrogate() ? 2
+                                                                                               : 1;
+}
 
 } // namespace
 
 struct RegularExpression::Engine {
     URegularExpression* handle = nullptr;
-    int reports = 0;
+    bool hasWildcard = false;
+    MatchingBudget passBudget = MatchingBudget::forPass();
+    // The budget of the search that is going on.
+    MatchingBudget* budget = nullptr;
     bool exhausted = false;
 
     Engine() = default;
@@ -26,29 +34,66 @@ struct RegularExpression::Engine {
     Engine& operator=(const Engine&) = delete;
     ~Engine() { uregex_close(handle); }
 
+    static Engine& of(const void* context)
+    {
+        return *static_cast<Engine*>(const_cast<void*>(context));
+    }
+
     static UBool U_CALLCONV report(const void* context, int32_t /*steps*/)
     {
-        auto* engine = static_cast<Engine*>(const_cast<void*>(context));
-        return ++engine->reports <= kMaximumReports;
+        return of(context).budget->takeReport();
     }
 
-    void setText(QStringView text)
+    static UBool U_CALLCONV attempt(const void* context, int64_t /*index*/)
+    {
+        return of(context).budget->takeAttempt();
+    }
+
+    bool open(const QString& pattern, CaseSensitivity caseSensitivity)
+    {
+        const uint32_t flags = caseSensitivity == CaseSensitivity::Insensitive
+                                   ? uint32_t{UREGEX_CASE_INSENSITIVE}
+                                   : 0U;
+        UErrorCode status = U_ZERO_ERROR;
+        UParseError where{};
+        // ICU takes no null text, not even an empty one.
+        const auto* units = reinterpret_cast<const char16_t*>(pattern.utf16());
+        handle = uregex_open(pattern.isEmpty() ? u"" : units, static_cast<int32_t>(pattern.size()),
+                             flags, &where, &status);
+        hasWildcard = hasLeadingWildcard(pattern);
+        return U_SUCCESS(status);
+    }
+
+    void limit()
     {
         UErrorCode status = U_ZERO_ERROR;
-        // ICU takes no null text, not even an empty one.
+        uregex_setStackLimit(handle, kMaximumStackBytes, &status);
+        uregex_setMatchCallback(handle, &Engine::report, this, &status);
+        uregex_setFindProgressCallback(handle, &Engine::attempt, this, &status);
+    }
+
+    void begin(QStringView text, MatchingBudget& searchBudget)
+    {
+        UErrorCode status = U_ZERO_ERROR;
         const char16_t* data = text.isEmpty() ? u"" : text.utf16();
         uregex_setText(handle, data, static_cast<int32_t>(text.size()), &status);
+        budget = &searchBudget;
+        budget->beginSearch(text.size());
     }
 
-    bool findNext()
+    // The next match: at or behind `from`, which is where the one before it has ended.
+    std::optional<TextRange> findNext(QStringView text, qsizetype from, UErrorCode& status) const
     {
-        UErrorCode status = U_ZERO_ERROR;
-        const bool found = uregex_findNext(handle, &status);
-        if (U_FAILURE(status)) {
-            exhausted = true;
-            return false;
+        if (!hasWildcard) {
+            return uregex_findNext(handle, &status) ? std::optional(match()) : std::nullopt;
         }
-        return found;
+        while (from <= text.size() && U_SUCCESS(status)) {
+            if (uregex_lookingAt(handle, static_cast<int32_t>(from), &status)) {
+                return match();
+            }
+            from = nextWildcardStart(text, from);
+        }
+        return std::nullopt;
     }
 
     [[nodiscard]] TextRange match() const
@@ -61,21 +106,16 @@ struct RegularExpression::Engine {
 };
 
 std::unique_ptr<RegularExpression> RegularExpression::compile(const QString& pattern,
-                                                              CaseSensitivity caseSensitivity)
+                                                              CaseSensitivity caseSensitivity,
+                                                              PatternSource source)
 {
     auto engine = std::make_unique<Engine>();
-    const uint32_t flags =
-        caseSensitivity == CaseSensitivity::Insensitive ? uint32_t{UREGEX_CASE_INSENSITIVE} : 0U;
-    UErrorCode status = U_ZERO_ERROR;
-    UParseError where{};
-    engine->handle =
-        uregex_open(pattern.isEmpty() ? u"" : reinterpret_cast<const char16_t*>(pattern.utf16()),
-                    static_cast<int32_t>(pattern.size()), flags, &where, &status);
-    if (U_FAILURE(status)) {
+    if (!engine->open(pattern, caseSensitivity)) {
         return nullptr;
     }
-    uregex_setStackLimit(engine->handle, kMaximumStackBytes, &status);
-    uregex_setMatchCallback(engine->handle, &Engine::report, engine.get(), &status);
+    if (source == PatternSource::User) {
+        engine->limit();
+    }
     return std::unique_ptr<RegularExpression>(new RegularExpression(std::move(engine)));
 }
 
@@ -87,30 +127,34 @@ RegularExpression::~RegularExpression() = default;
 
 std::optional<TextRange> RegularExpression::firstMatch(QStringView text) const
 {
-    if (!hasMatch(text)) {
+    if (m_engine->exhausted) {
         return std::nullopt;
     }
-    return m_engine->match();
+    m_engine->begin(text, m_engine->passBudget);
+    UErrorCode status = U_ZERO_ERROR;
+    const auto match = m_engine->findNext(text, 0, status);
+    m_engine->exhausted = U_FAILURE(status);
+    return m_engine->exhausted ? std::nullopt : match;
 }
 
 bool RegularExpression::hasMatch(QStringView text) const
 {
-    if (m_engine->exhausted) {
-        return false;
-    }
-    m_engine->setText(text);
-    return m_engine->findNext();
+    return firstMatch(text).has_value();
 }
 
 std::vector<TextRange> RegularExpression::allMatches(QStringView text) const
 {
     std::vector<TextRange> matches;
-    if (m_engine->exhausted) {
-        return matches;
-    }
-    m_engine->setText(text);
-    while (m_engine->findNext()) {
-        matches.push_back(m_engine->match());
+    MatchingBudget textBudget = MatchingBudget::forText(text.size());
+    m_engine->begin(text, textBudget);
+    UErrorCode status = U_ZERO_ERROR;
+    qsizetype from = 0;
+    while (const auto match = m_engine->findNext(text, from, status)) {
+        matches.push_back(*match);
+        from = match->end();
+        if (match->length == 0) {
+            from += characterLength(text, from);
+        }
     }
     return matches;
 }

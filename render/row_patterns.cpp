@@ -14,14 +14,14 @@ const RegularExpression& timestampExpression()
 {
     static const auto expression = RegularExpression::compile(
         QStringLiteral(R"(\[\d{2}-[A-Za-z]{3}-\d{4} (\d{2}:\d{2}:\d{2}) UTC\])"),
-        CaseSensitivity::Sensitive);
+        CaseSensitivity::Sensitive, PatternSource::Program);
     return *expression;
 }
 
 const RegularExpression& timeOfDayExpression()
 {
     static const auto expression = RegularExpression::compile(
-        QStringLiteral(R"(\d{2}:\d{2}:\d{2})"), CaseSensitivity::Sensitive);
+        QStringLiteral(R"(\d{2}:\d{2}:\d{2})"), CaseSensitivity::Sensitive, PatternSource::Program);
     return *expression;
 }
 
@@ -29,7 +29,7 @@ const RegularExpression& dumpExpression()
 {
     static const auto expression = RegularExpression::compile(
         QStringLiteral(R"((?:\bArray\b\s*\(|\bprint_r\s*\(|\bvar_dump\s*\())"),
-        CaseSensitivity::Insensitive);
+        CaseSensitivity::Insensitive, PatternSource::Program);
     return *expression;
 }
 

@@ -2,15 +2,13 @@
 #include "render/search_expression.h"
 
 #include "render/case_folding.h"
+#include "render/required_word.h"
 
 #include <algorithm>
 
 namespace quillon {
 
 namespace {
-
-// Shorter words are in nearly every line, so that looking for them saves nothing.
-constexpr qsizetype kShortestRequiredWord = 3;
 
 QString patternOf(const QString& query)
 {
@@ -35,38 +33,6 @@ bool isPlainWord(const QString& pattern)
     return !pattern.isEmpty() && isPlainAscii(pattern) &&
            std::none_of(pattern.begin(), pattern.end(),
                         [](QChar character) { return kMeta.contains(character); });
-}
-
-// A word that every match of the pattern contains, for looking it up before the expression is run:
-// the longest run of plain characters, found only in patterns simple enough to be sure (plain
-// characters, dots, anchors and simple quantifiers). Empty where there is none worth it.
-QString requiredWordOf(const QString& pattern)
-{
-    static constexpr QLatin1StringView kNotSimple("\\|()[]{}");
-    static constexpr QLatin1StringView kEndOfRun(".^$*+?");
-    const bool isSimple =
-        isPlainAscii(pattern) && std::none_of(pattern.begin(), pattern.end(), [](QChar character) {
-            return kNotSimple.contains(character);
-        });
-    if (!isSimple) {
-        return QString();
-    }
-    QString longest;
-    QString run;
-    for (const QChar character : pattern + u'.') {
-        if (!kEndOfRun.contains(character)) {
-            run += character;
-            continue;
-        }
-        if (character == u'*' || character == u'?') {
-            run.chop(1); // it may be missing
-        }
-        if (run.size() > longest.size()) {
-            longest = run;
-        }
-        run.clear();
-    }
-    return longest.size() >= kShortestRequiredWord ? longest : QString();
 }
 
 std::vector<TextRange> plainRanges(const AsciiSearch& search, QStringView row)
@@ -99,11 +65,11 @@ std::vector<TextRange> literalRanges(const QString& lowerCasedQuery, const QStri
 
 } // namespace
 
-SearchExpression::SearchExpression(QString query, std::unique_ptr<RegularExpression> expression)
-    : m_query(std::move(query)), m_lowerCasedQuery(m_query.toLower()),
-      m_expression(std::move(expression))
+SearchExpression::SearchExpression(const QString& query,
+                                   std::unique_ptr<RegularExpression> expression)
+    : m_lowerCasedQuery(query.toLower()), m_expression(std::move(expression))
 {
-    const QString pattern = m_expression ? patternOf(m_query) : QString();
+    const QString pattern = m_expression ? patternOf(query) : QString();
     if (isPlainWord(pattern)) {
         m_plainWord.emplace(QLatin1StringView(pattern.toLatin1()));
     } else if (const QString word = requiredWordOf(pattern); !word.isEmpty()) {
@@ -152,10 +118,8 @@ std::vector<TextRange> SearchExpression::rangesIn(const QString& row) const
     }
     if (m_expression) {
         std::vector<TextRange> ranges = m_expression->allMatches(row);
-        if (!m_expression->isExhausted()) {
-            std::erase_if(ranges, [](const TextRange& range) { return range.length == 0; });
-            return ranges;
-        }
+        std::erase_if(ranges, [](const TextRange& range) { return range.length == 0; });
+        return ranges;
     }
     return literalRanges(m_lowerCasedQuery, row);
 }

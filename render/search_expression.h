@@ -23,10 +23,8 @@ public:
     // The literal search for the query, whether or not it is a valid expression.
     static std::shared_ptr<const SearchExpression> makeLiteral(const QString& query);
 
-    [[nodiscard]] const QString& query() const { return m_query; }
-    [[nodiscard]] bool isLiteral() const { return m_expression == nullptr; }
-    // True once matching has used up what one expression may cost; what it says from then on is
-    // not to be relied on.
+    // True once matches() has used up what one expression may cost in a pass; what it says from
+    // then on is not to be relied on.
     [[nodiscard]] bool isExhausted() const { return m_expression && m_expression->isExhausted(); }
 
     // Whether a line's text has a match anywhere.
@@ -34,13 +32,13 @@ public:
 
     // Every match in a row, in order and without overlap, in UTF-16 units. Empty matches are left
     // out, having nothing to show. A literal's occurrences are those in the lower-cased row; where
-    // lower-casing has changed the length, they are clipped to the row.
+    // lower-casing has changed the length, they are clipped to the row. Of a row that costs too
+    // much, the matches found by then.
     [[nodiscard]] std::vector<TextRange> rangesIn(const QString& row) const;
 
 private:
-    SearchExpression(QString query, std::unique_ptr<RegularExpression> expression);
+    SearchExpression(const QString& query, std::unique_ptr<RegularExpression> expression);
 
-    QString m_query;
     QString m_lowerCasedQuery;
     std::unique_ptr<RegularExpression> m_expression;
     // Set where the pattern is a plain ASCII word, for which comparing letters gives the same and

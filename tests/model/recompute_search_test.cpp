@@ -96,6 +96,31 @@ TEST_F(RecomputeSearch, AnExpressionThatCostsTooMuchIsSearchedForAsItIsInNewLine
     EXPECT_EQ(shown(), (QStringList{QStringLiteral("a"), QStringLiteral("(a+)+$")}));
 }
 
+TEST_F(RecomputeSearch, NewLinesExtendTheTextAlsoWhenTheExpressionCostsTooMuch)
+{
+    found(QStringLiteral("(a+)+$"), {QStringLiteral("a")});
+    const AttributedString before = model().attributedOutput.get();
+    const LogLines added = logLines({QStringLiteral("(a+)+$ and a"), QString(60, u'a') + u'b',
+                                     QStringLiteral("see (a+)+$ here")},
+                                    1);
+    model().lines.mutate([&added](LogLines& all) { all.append(added); });
+    model().recompute(added);
+    EXPECT_EQ(shown(), (QStringList{QStringLiteral("a"), QStringLiteral("(a+)+$ and a"),
+                                    QStringLiteral("see (a+)+$ here")}));
+    EXPECT_TRUE(model().attributedOutput.get().isExtensionOf(before));
+}
+
+TEST_F(RecomputeSearch, WildcardsMayStandBeforeAnExpressionInALongLog)
+{
+    QStringList texts(20'000, QStringLiteral("[05-Mar-2024 10:15:42 UTC] PHP Warning:  Undefined "
+                                             "variable $x in /srv/wp-content/a.php on line 17"));
+    texts[7'000] = QStringLiteral("fatal in /srv/cart.php, by array");
+    for (const char16_t* query :
+         {u".*cart\\.php", u".*(cart|hook)\\.php", u"(.*)fatal(.*)", u"(?=.*fatal)(?=.*array)"}) {
+        EXPECT_EQ(found(QString::fromUtf16(query), texts), QStringList{texts[7'000]});
+    }
+}
+
 TEST_F(RecomputeSearch, ANewQueryShowsAfterAWhile)
 {
     open("foo\nbar\n");

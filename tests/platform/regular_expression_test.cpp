@@ -93,8 +93,9 @@ TEST(RegularExpressionBudget, EndsACatastrophicMatch)
 
 TEST(RegularExpressionBudget, EndsAMatchThatNestsTooDeep)
 {
-    const auto expression = insensitive(QStringLiteral("(?:a|b)*c"));
-    EXPECT_FALSE(expression->hasMatch(QString(4'000'000, u'a')));
+    // One try takes some millions of steps, far fewer than there are; but it keeps them all.
+    const auto expression = insensitive(QStringLiteral("^(?:a|b)*c"));
+    EXPECT_FALSE(expression->hasMatch(QString(1'000'000, u'a')));
     EXPECT_TRUE(expression->isExhausted());
 }
 
@@ -104,10 +105,55 @@ TEST(RegularExpressionBudget, OnceSpentLetsNothingMatch)
     EXPECT_FALSE(expression->hasMatch(QString(60, u'a') + u'b'));
     EXPECT_FALSE(expression->hasMatch(u"a"));
     EXPECT_EQ(expression->firstMatch(u"a"), std::nullopt);
-    EXPECT_TRUE(expression->allMatches(u"a").empty());
 }
 
-TEST(RegularExpressionBudget, IsSharedByAllMatches)
+TEST(RegularExpressionBudget, OfAllMatchesIsEachTextsOwn)
+{
+    const auto expression = insensitive(QStringLiteral("x|(a+)+c"));
+    const QString costly = u'x' + QString(60, u'a') + u'x';
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(expression->allMatches(costly), (std::vector<TextRange>{{0, 1}}));
+        EXPECT_FALSE(expression->isExhausted());
+    }
+    EXPECT_EQ(expression->allMatches(u"xaacx"), (std::vector<TextRange>{{0, 1}, {1, 3}, {4, 1}}));
+}
+
+TEST(RegularExpressionBudget, OfAllMatchesLeavesThatOfFirstMatchesAlone)
+{
+    const auto expression = insensitive(QStringLiteral("(a+)+$"));
+    static_cast<void>(expression->allMatches(QString(60, u'a') + u'b'));
+    EXPECT_TRUE(expression->hasMatch(u"a"));
+}
+
+TEST(RegularExpressionBudget, EndsScanningThatTakesNoSteps)
+{
+    // Nearly a minute, were it let.
+    const auto expression = insensitive(QStringLiteral("(?>.*)b"));
+    const QString text(320'000, u'a');
+    EXPECT_FALSE(expression->hasMatch(text));
+    EXPECT_TRUE(expression->isExhausted());
+    EXPECT_TRUE(expression->allMatches(text).empty());
+}
+
+TEST(RegularExpressionBudget, IsNotTouchedByALineThatIsLong)
+{
+    const auto expression = insensitive(QStringLiteral("\\w+\\d\\s+x"));
+    EXPECT_FALSE(expression->hasMatch(QStringLiteral("some words, 17 and more ").repeated(80'000)));
+    EXPECT_FALSE(expression->isExhausted());
+}
+
+TEST(RegularExpressionBudget, DoesNotLimitTheProgramsOwnPatterns)
+{
+    const QString pattern = QStringLiteral("x|(a+)+c");
+    const QString costly = u'x' + QString(18, u'a') + u'x';
+    const auto users = RegularExpression::compile(pattern, CaseSensitivity::Sensitive);
+    EXPECT_EQ(users->allMatches(costly), (std::vector<TextRange>{{0, 1}}));
+    const auto own =
+        RegularExpression::compile(pattern, CaseSensitivity::Sensitive, PatternSource::Program);
+    EXPECT_EQ(own->allMatches(costly), (std::vector<TextRange>{{0, 1}, {19, 1}}));
+}
+
+TEST(RegularExpressionBudget, IsSharedByAllFirstMatches)
 {
     // Each match alone stays below the budget; all of them together do not.
     const auto expression = insensitive(QStringLiteral("(a+)+$"));
