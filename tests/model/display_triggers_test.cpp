@@ -4,6 +4,8 @@
 #include "render/preference_keys.h"
 #include "tests/model/view_model_fixture.h"
 
+#include <QElapsedTimer>
+
 #include <chrono>
 
 namespace quillon {
@@ -50,6 +52,25 @@ TEST_F(DisplayTriggers, TypingAQueryOfFiveCharactersMakesOnePass)
     }
     EXPECT_EQ(passesSoFar(), 0);
     EXPECT_EQ(passes(), 1);
+}
+
+// A pass may be late on a busy machine, but never early. In whole milliseconds, rounded down.
+TEST_F(DisplayTriggers, APassComesSixtyMillisecondsAfterTheLastKey)
+{
+    QElapsedTimer sinceKey;
+    sinceKey.start();
+    model().query.set(QStringLiteral("q"));
+    ASSERT_TRUE(spinUntil([this] { return passesSoFar() == 1; }));
+    EXPECT_GE(sinceKey.elapsed(), 59);
+}
+
+TEST_F(DisplayTriggers, APassComesLaterAfterAChangeOfTheUserDefaults)
+{
+    QElapsedTimer sinceChange;
+    sinceChange.start();
+    defaults().setObject(QStringLiteral("#111111"), preference_keys::kColorInfo);
+    ASSERT_TRUE(spinUntil([this] { return passesSoFar() == 1; }));
+    EXPECT_GE(sinceChange.elapsed(), 119);
 }
 
 TEST_F(DisplayTriggers, HidingWarningsAndShowingThemAgainMakesOnePass)

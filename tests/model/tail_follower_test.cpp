@@ -3,6 +3,7 @@
 #include "tests/model/view_model_fixture.h"
 
 #include <QFile>
+#include <QPointer>
 
 #include <cerrno>
 
@@ -266,9 +267,14 @@ TEST_F(TailFollower, StartingTwiceLeavesOneTimer)
 {
     open("x\n");
     model().startTail();
-    folder().append(kFile, "A\n");
-    ASSERT_TRUE(spinUntil([this] { return model().lines.get().size() > 1; }));
-    EXPECT_EQ(texts().size(), 2);
+    const QPointer<QTimer> first = model().pollTimer.get();
+    ASSERT_TRUE(first && first->isActive());
+    model().startTail();
+    ASSERT_TRUE(model().pollTimer);
+    EXPECT_NE(model().pollTimer.get(), first);
+    EXPECT_TRUE(model().pollTimer->isActive());
+    EXPECT_FALSE(first && first->isActive());
+    EXPECT_TRUE(spinUntil([&first] { return first.isNull(); }));
 }
 
 TEST_F(TailFollower, MayBeStoppedByWhatALookLeadsTo)

@@ -40,8 +40,9 @@ int refusalOf(const QString& path)
 TEST(ReadHandle, ReadsAWholeFile)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abc\0def"));
-    EXPECT_EQ(handle.readToEnd().value(), QByteArray("abc\0def"));
+    const QByteArray bytes("abc\0def", 7);
+    ReadHandle handle = openOrFail(folder.write(kFile, bytes));
+    EXPECT_EQ(handle.readToEnd().value(), bytes);
 }
 
 TEST(ReadHandle, ReadsNothingFromAnEmptyFile)
