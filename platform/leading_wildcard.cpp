@@ -49,9 +49,10 @@ bool isFarReaching(QChar escaped)
 // depend on where the wildcard began.
 bool isPlainRest(QStringView rest)
 {
-    int depth = 0;
+    // Parentheses are not counted right in sets and comments, which matters for alternatives only.
+    bool isCountable = true;
     bool hasAlternative = false;
-    bool hasSet = false;
+    int depth = 0;
     for (qsizetype at = 0; at < rest.size(); ++at) {
         switch (rest[at].unicode()) {
         case u'\\':
@@ -72,16 +73,15 @@ bool isPlainRest(QStringView rest)
                 return false;
             }
             break;
-        case u'[': // parentheses are not counted right in sets,
-            hasSet = true;
+        case u'[':
+        case u'#':
+            isCountable = false;
             break;
-        case u'#': // nor in comments
-            return false;
         default:
             break;
         }
     }
-    return !(hasAlternative && hasSet);
+    return isCountable || !hasAlternative;
 }
 
 } // namespace

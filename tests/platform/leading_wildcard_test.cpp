@@ -11,8 +11,9 @@ namespace {
 
 TEST(LeadingWildcard, IsAnyNumberOfAnyCharacters)
 {
-    for (const char16_t* pattern : {u".*", u".*a", u".+a", u".*?a", u".+?a", u"(.*)a", u"(.+?)a",
-                                    u".*(a|b)", u".*[a-z]+\\.php", u".*\\d\\|", u".*(?=a)$"}) {
+    for (const char16_t* pattern :
+         {u".*", u".*a", u".+a", u".*?a", u".+?a", u"(.*)a", u"(.+?)a", u".*(a|b)", u".*?\\s#\\d",
+          u".*(?#()a", u".*[a-z]+\\.php", u".*\\d\\|", u".*(?=a)$"}) {
         EXPECT_TRUE(hasLeadingWildcard(pattern)) << qPrintable(QString::fromUtf16(pattern));
     }
 }
@@ -53,7 +54,7 @@ TEST(LeadingWildcard, IsTriedBehindEachLineEnd)
     EXPECT_EQ(nextWildcardStart(QStringView(), 0), 1);
 }
 
-// A group around the pattern says the same, and has the engine try each place.
+// An empty group before the pattern changes nothing, but has the engine try each place.
 TEST(LeadingWildcardProperty, FindsWhatTryingEachPlaceFinds)
 {
     const QStringList wildcards{QStringLiteral(".*"),   QStringLiteral(".+"),
@@ -66,6 +67,7 @@ TEST(LeadingWildcardProperty, FindsWhatTryingEachPlaceFinds)
         QStringLiteral(")"),      QStringLiteral("|"),     QStringLiteral("[ab]"),
         QStringLiteral("(?<=a)"), QStringLiteral("(?!b)"), QStringLiteral("\\1"),
         QStringLiteral("\\n"),    QStringLiteral("\\s"),   QStringLiteral("\\Z"),
+        QStringLiteral("#"),      QStringLiteral("(?x)"),  QStringLiteral("(?#"),
         QStringLiteral("(?m)"),   QStringLiteral("(?s)"),  QStringLiteral("\\X"),
     };
     const QStringList pieces{
@@ -81,7 +83,7 @@ TEST(LeadingWildcardProperty, FindsWhatTryingEachPlaceFinds)
         if (!expression || !hasLeadingWildcard(pattern)) {
             continue;
         }
-        const auto plain = RegularExpression::compile(QStringLiteral("(?:%1)").arg(pattern),
+        const auto plain = RegularExpression::compile(QStringLiteral("(?:)") + pattern,
                                                       CaseSensitivity::Sensitive);
         ASSERT_NE(plain, nullptr) << qPrintable(pattern);
         const auto expected = plain->firstMatch(text);
