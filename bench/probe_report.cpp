@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/probe_report.h"
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -19,7 +20,11 @@ qint64 residentBytes()
 
 void reportAndExit()
 {
-    std::printf("%lld\n", static_cast<long long>(residentBytes()));
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    std::printf(
+        "%lld %lld\n",
+        static_cast<long long>(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()),
+        static_cast<long long>(residentBytes()));
     std::fflush(stdout);
     std::_Exit(0);
 }

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <vector>
 
@@ -64,6 +65,22 @@ ProcessRun runProcess(const QString& program, const QStringList& arguments,
     return run;
 }
 
+struct Start {
+    double milliseconds = 0;
+    double residentBytes = 0;
+};
+
+// Starts a window; its last line says when it had been painted, and how much memory it took then.
+Start startWindow(const QString& program, const QStringList& arguments)
+{
+    const std::chrono::nanoseconds begin = std::chrono::steady_clock::now().time_since_epoch();
+    const QByteArray output = runProcess(program, arguments).output;
+    const QList<QByteArray> report = output.trimmed().split('\n').last().split(' ');
+    const std::chrono::nanoseconds painted(report.value(0).toLongLong());
+    return Start{std::chrono::duration<double, std::milli>(painted - begin).count(),
+                 report.value(1).toDouble()};
+}
+
 QString writeLog(const QTemporaryDir& folder)
 {
     QFile file(folder.filePath(QStringLiteral("debug.log")));
@@ -77,13 +94,13 @@ void compareStart(RatioTable& table, const QString& path)
     const QString program = beside("quillon_window_probe");
     const QString bare = beside("quillon_bare_probe");
     const auto start = [&] {
-        return runProcess(program, {path}).milliseconds;
+        return startWindow(program, {path}).milliseconds;
     };
     const auto startBare = [&] {
-        return runProcess(bare, {}).milliseconds;
+        return startWindow(bare, {}).milliseconds;
     };
     const auto startWithText = [&] {
-        return runProcess(bare, {QStringLiteral("text")}).milliseconds;
+        return startWindow(bare, {QStringLiteral("text")}).milliseconds;
     };
     table.add(QStringLiteral("cold start to the painted log | bare Qt window"),
               comparePairs(start, startBare, 21), 1.3);
@@ -92,13 +109,9 @@ void compareStart(RatioTable& table, const QString& path)
     table.addForComparison(QStringLiteral("a bare Qt window with a line of text | without"),
                            comparePairs(startWithText, startBare, 21));
     std::vector<double> differences;
-    // The program says on standard output which files it opens; the probe's report comes last.
-    const auto residentBytes = [](const ProcessRun& run) {
-        return run.output.trimmed().split('\n').last().toDouble();
-    };
     for (int pair = 0; pair < 9; ++pair) {
-        differences.push_back(residentBytes(runProcess(program, {path})) -
-                              residentBytes(runProcess(bare, {})));
+        differences.push_back(startWindow(program, {path}).residentBytes -
+                              startWindow(bare, {}).residentBytes);
     }
     std::nth_element(differences.begin(), differences.begin() + 4, differences.end());
     table.addQuantity(QStringLiteral("memory with 2 MiB shown, beyond a bare window"),
