@@ -38,8 +38,15 @@ QVariant unwrapped(QVariant value)
 AppearancePortal::AppearancePortal(const QDBusConnection& bus, QObject* parent)
     : QObject(parent), m_bus(bus)
 {
-    QDBusConnection(m_bus).connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"),
-                                   this, SLOT(settingChanged(QString, QString, QDBusVariant)));
+    // The slot's types are looked up by name, and nothing has named this one yet.
+    qRegisterMetaType<QDBusVariant>();
+    const bool isListening = QDBusConnection(m_bus).connect(
+        kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+        SLOT(settingChanged(QString, QString, QDBusVariant)));
+    // What was refused on a bus that is there is a slot that does not fit.
+    if (!isListening && m_bus.isConnected()) {
+        qWarning("Changes between light and dark will not be noticed.");
+    }
     ask(kReadMethod);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/window/helper_process.h"
+#include "tests/support/helper_process.h"
 
 #include <QJsonValue>
 #include <QList>

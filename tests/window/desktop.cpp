@@ -165,14 +165,8 @@ void Desktop::startScreen()
 
 void Desktop::startBus()
 {
-    m_bus = std::make_unique<HelperProcess>(
-        QStringLiteral("dbus-daemon"),
-        QStringList{QStringLiteral("--session"), QStringLiteral("--nofork"),
-                    QStringLiteral("--print-address=1"),
-                    QStringLiteral("--address=unix:path=") + m_folder.path(QStringLiteral("bus"))},
-        m_environment);
-    m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-                         QString::fromLatin1(m_bus->readLine()));
+    m_bus = std::make_unique<PrivateBus>(m_environment);
+    m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), m_bus->address());
 }
 
 void Desktop::startWindowManager()

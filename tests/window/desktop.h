@@ -2,8 +2,9 @@
 #pragma once
 
 #include "tests/app/quillon_process.h"
+#include "tests/support/helper_process.h"
+#include "tests/support/private_bus.h"
 #include "tests/support/temporary_folder.h"
-#include "tests/window/helper_process.h"
 
 #include <QColor>
 #include <QImage>
@@ -61,7 +62,7 @@ private:
     TemporaryFolder m_folder;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
     std::unique_ptr<HelperProcess> m_screen;
-    std::unique_ptr<HelperProcess> m_bus;
+    std::unique_ptr<PrivateBus> m_bus;
     std::unique_ptr<HelperProcess> m_windowManager;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/support/helper_process.h"
 #include "tests/support/spin_until.h"
-#include "tests/window/helper_process.h"
 #include "tests/window/window_test.h"
 
 #include <chrono>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/window/helper_process.h"
+#include "tests/support/helper_process.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
