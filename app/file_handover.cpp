@@ -7,6 +7,10 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
+#include <QDeadlineTimer>
+
+#include <algorithm>
+#include <array>
 
 namespace quillon {
 
@@ -18,9 +22,12 @@ constexpr QLatin1StringView kBusName("org.quillon.Quillon");
 constexpr QLatin1StringView kObjectPath("/org/quillon/Quillon");
 constexpr QLatin1StringView kInterface("org.freedesktop.Application");
 
-// A window that is reading a large log answers late; one that has hung must not keep the user
-// waiting for good.
-constexpr int kAnswerTimeoutMilliseconds = 5000;
+// The bus says these itself, of a name that nobody has.
+constexpr std::array kErrorsWithoutOwner{
+    QLatin1StringView("org.freedesktop.DBus.Error.ServiceUnknown"),
+    QLatin1StringView("org.freedesktop.DBus.Error.NameHasNoOwner")};
+
+enum class Answer : std::uint8_t { Taken, NobodyThere, Failed };
 
 QVariantMap platformData(const HandoverRequest& request)
 {
@@ -32,29 +39,56 @@ QVariantMap platformData(const HandoverRequest& request)
     return data;
 }
 
-bool call(const QDBusConnection& bus, const QString& method, const QVariantList& arguments)
+Answer answerOf(const QDBusMessage& reply)
 {
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, method);
-    message.setArguments(arguments);
-    const QDBusMessage answer = bus.call(message, QDBus::Block, kAnswerTimeoutMilliseconds);
-    return answer.type() == QDBusMessage::ReplyMessage;
+    if (reply.type() == QDBusMessage::ReplyMessage) {
+        return Answer::Taken;
+    }
+    const auto* const found =
+        std::find(kErrorsWithoutOwner.begin(), kErrorsWithoutOwner.end(), reply.errorName());
+    return found == kErrorsWithoutOwner.end() ? Answer::Failed : Answer::NobodyThere;
 }
 
-// Following comes first: it takes effect on files that are opened after it.
-bool handOver(const QDBusConnection& bus, const HandoverRequest& request)
-{
-    const QVariantMap data = platformData(request);
-    if (request.followTail && !call(bus, QStringLiteral("ActivateAction"),
-                                    {QString(kFollowAction), QVariantList(), data})) {
-        return false;
+// The running program, as this launch reaches it until the deadline.
+class RunningProgram {
+public:
+    RunningProgram(const QDBusConnection& bus, QDeadlineTimer deadline)
+        : m_bus(bus), m_deadline(deadline)
+    {
     }
-    if (request.files.isEmpty()) {
-        return call(bus, QStringLiteral("Activate"), {data});
+
+    // Following comes first: it takes effect on files that are opened after it.
+    [[nodiscard]] Answer take(const HandoverRequest& request) const
+    {
+        const QVariantMap data = platformData(request);
+        if (request.followTail) {
+            const Answer answer = call(QStringLiteral("ActivateAction"),
+                                       {QString(kFollowAction), QVariantList(), data});
+            if (answer != Answer::Taken) {
+                return answer;
+            }
+        }
+        if (request.files.isEmpty()) {
+            return call(QStringLiteral("Activate"), {data});
+        }
+        const QStringList uris = QUrl::toStringList(request.files, QUrl::FullyEncoded);
+        return call(QStringLiteral("Open"), {uris, data});
     }
-    const QStringList uris = QUrl::toStringList(request.files, QUrl::FullyEncoded);
-    return call(bus, QStringLiteral("Open"), {uris, data});
-}
+
+private:
+    [[nodiscard]] Answer call(const QString& method, const QVariantList& arguments) const
+    {
+        QDBusMessage message =
+            QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, method);
+        message.setArguments(arguments);
+        // Nought and less have meanings of their own.
+        const qint64 rest = std::max<qint64>(1, m_deadline.remainingTime());
+        return answerOf(m_bus.call(message, QDBus::Block, static_cast<int>(rest)));
+    }
+
+    const QDBusConnection m_bus;
+    const QDeadlineTimer m_deadline;
+};
 
 } // namespace
 
@@ -63,23 +97,29 @@ FileHandover::FileHandover(QObject* parent) : QObject(parent)
     new FileHandoverAdaptor(*this);
 }
 
-FileHandover::Outcome FileHandover::claim(const HandoverRequest& request)
+FileHandover::Outcome FileHandover::claim(const HandoverRequest& request,
+                                          std::chrono::milliseconds patience)
 {
     std::optional<QDBusConnection> bus = sessionBus();
     // The object is there before the name is: whoever finds the name calls at once.
     if (!bus || !bus->registerObject(kObjectPath, this, QDBusConnection::ExportAdaptors)) {
         return Outcome::Alone;
     }
-    // The running program may be ending just now, which frees the name for a second attempt.
-    for (int attempt = 0; attempt < 2; ++attempt) {
+    const RunningProgram running(*bus, QDeadlineTimer(patience));
+    Answer answer = Answer::NobodyThere;
+    // The running program may be ending just now, which frees the name for a second attempt. One
+    // that hangs still has the first request before it; with a second it would open the file twice.
+    for (int attempt = 0; attempt < 2 && answer == Answer::NobodyThere; ++attempt) {
         if (bus->registerService(kBusName)) {
             return Outcome::First;
         }
-        if (handOver(*bus, request)) {
-            return Outcome::HandedOver;
-        }
+        answer = running.take(request);
     }
-    return Outcome::Alone;
+    if (answer == Answer::Taken) {
+        return Outcome::HandedOver;
+    }
+    // It may have ended over the request.
+    return bus->registerService(kBusName) ? Outcome::First : Outcome::Alone;
 }
 
 } // namespace quillon

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QUrl>
 
+#include <chrono>
 #include <cstdint>
 
 namespace quillon {
@@ -28,11 +29,16 @@ public:
     // request. Alone: nobody is there to take it and nobody will be heard of.
     enum class Outcome : std::uint8_t { First, HandedOver, Alone };
 
+    // A window that is reading a large log answers late; one that has hung must not keep the user
+    // waiting for good.
+    static constexpr std::chrono::milliseconds kPatience{5000};
+
     explicit FileHandover(QObject* parent = nullptr);
 
-    // Decides for this launch. Blocks for two exchanges with the bus at most, and as long as the
-    // running program takes to answer, but no longer than a few seconds.
-    [[nodiscard]] Outcome claim(const HandoverRequest& request);
+    // Decides for this launch. Blocks for a few exchanges with the bus, and as long as the running
+    // program takes to answer, but no longer than `patience` in all.
+    [[nodiscard]] Outcome claim(const HandoverRequest& request,
+                                std::chrono::milliseconds patience = kPatience);
 
 Q_SIGNALS:
     // A later launch, or the desktop, wants the window in front.

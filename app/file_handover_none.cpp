@@ -6,7 +6,8 @@ namespace quillon {
 FileHandover::FileHandover(QObject* parent) : QObject(parent) {}
 
 // Where there is no session bus the desktop itself keeps the program to one launch.
-FileHandover::Outcome FileHandover::claim(const HandoverRequest& /*request*/)
+FileHandover::Outcome FileHandover::claim(const HandoverRequest& /*request*/,
+                                          std::chrono::milliseconds /*patience*/)
 {
     return Outcome::Alone;
 }
