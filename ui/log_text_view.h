@@ -98,6 +98,7 @@ private:
     bool scrollOnKey(const QKeyEvent& event);
     bool extendOnKey(const QKeyEvent& event);
     void beginSelection(const QMouseEvent& event);
+    void finishDrag();
     void endDrag();
     void extendSelectionTo(TextPosition position);
     void publishSelection();

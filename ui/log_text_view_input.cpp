@@ -194,7 +194,15 @@ void LogTextView::timerEvent(QTimerEvent* event)
 
 void LogTextView::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && m_isSelecting) {
+    if (event->button() == Qt::LeftButton) {
+        finishDrag();
+    }
+}
+
+// Keeps what was selected until now.
+void LogTextView::finishDrag()
+{
+    if (m_isSelecting) {
         endDrag();
         publishSelection();
     }
@@ -208,6 +216,10 @@ void LogTextView::endDrag()
 
 bool LogTextView::event(QEvent* event)
 {
+    // The release of the button will go to another window then, or to none.
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Hide) {
+        finishDrag();
+    }
     // Menus and other widgets may have the same shortcuts; here the keys mean the text.
     if (event->type() == QEvent::ShortcutOverride) {
         auto* const key = static_cast<QKeyEvent*>(event);

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDialog>
 #include <QMenu>
 #include <QTimer>
 #include <QWheelEvent>
@@ -141,6 +142,37 @@ TEST_F(LogTextPointer, ComingBackIntoTheViewStopsTheScrolling)
     const int stopped = vertical().value();
     spinFor(std::chrono::milliseconds(200));
     EXPECT_EQ(vertical().value(), stopped);
+}
+
+// The button is then released over a window that is not told, or over none.
+TEST_F(LogTextPointer, ADialogThatOpensEndsADrag)
+{
+    show(wrapped(sampleText(manyLines())));
+    vertical().setValue(0);
+    press(leftOf({2, 2}));
+    move(leftOf({3, 2}));
+    move(QPoint(100, view->viewport()->height() + 40));
+    ASSERT_TRUE(spinUntil([this] { return vertical().value() > 100; }));
+    QDialog dialog(view.get());
+    dialog.open();
+    const int stopped = vertical().value();
+    const TextPosition end = view->textSelection().end();
+    spinFor(std::chrono::milliseconds(200));
+    EXPECT_EQ(vertical().value(), stopped);
+    dialog.close();
+    move(leftOf({3, 2}));
+    EXPECT_TRUE(view->textSelection().end() == end);
+}
+
+TEST_F(LogTextPointer, HidingTheViewEndsADrag)
+{
+    show(wrapped(sampleText({QStringLiteral("first line")})));
+    press(leftOf({0, 2}));
+    move(leftOf({0, 4}));
+    view->hide();
+    view->show();
+    move(leftOf({0, 7}));
+    EXPECT_EQ(view->selectedText(), QStringLiteral("fi"));
 }
 
 // Its anchor was a place of the text that is gone.
