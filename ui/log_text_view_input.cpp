@@ -220,14 +220,6 @@ bool LogTextView::event(QEvent* event)
     if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Hide) {
         finishDrag();
     }
-    // Menus and other widgets may have the same shortcuts; here the keys mean the text.
-    if (event->type() == QEvent::ShortcutOverride) {
-        auto* const key = static_cast<QKeyEvent*>(event);
-        if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll)) {
-            event->accept();
-            return true;
-        }
-    }
     return QAbstractScrollArea::event(event);
 }
 
