@@ -43,6 +43,9 @@ ToolbarSearchField::ToolbarSearchField(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setMaximumWidth(kMaximumWidth);
     setCursor(Qt::IBeamCursor);
+    // A click on the glass or beside the text means the text. The proxy alone takes no clicks, and
+    // one that is set already would get this policy in place of its own.
+    setFocusPolicy(Qt::ClickFocus);
     setFocusProxy(m_edit);
 }
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/ui/content_view_fixture.h"
 #include "ui/log_text_view.h"
+#include "ui/symbol_label.h"
 #include "ui/toolbar_row.h"
 #include "ui/toolbar_search_field.h"
 
 #include <QTest>
+#include <QWindow>
 
 #include <array>
 
@@ -161,6 +163,20 @@ TEST_F(Toolbar, TheSearchFieldAnnouncesThatExpressionsAreUnderstood)
 {
     EXPECT_EQ(search().placeholderText(), QStringLiteral("Recherche… (regex ok)"));
     EXPECT_GE(search().minimumWidth(), 220);
+}
+
+TEST_F(Toolbar, AClickBesideTheSearchTextOrOnItsGlassGivesItTheKeyboard)
+{
+    view.show();
+    QWindow& window = *view.windowHandle();
+    const ToolbarSearchField& field = view.toolbar().searchField();
+    for (const QPoint place :
+         {QPoint(2, 2), field.findChild<SymbolLabel*>()->geometry().center()}) {
+        view.logView().setFocus();
+        ASSERT_NE(view.focusWidget(), &search());
+        QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, field.mapTo(&view, place));
+        EXPECT_EQ(view.focusWidget(), &search()) << place.x();
+    }
 }
 
 TEST_F(Toolbar, TabGoesThroughTheControlsFromLeftToRightAndOnToTheLog)
