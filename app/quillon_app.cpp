@@ -138,6 +138,7 @@ bool QuillonApp::eventFilter(QObject* watched, QEvent* event)
     } else {
         m_delegate.openFile(open->file());
     }
+    presentMainWindow();
     return true;
 }
 

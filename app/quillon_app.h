@@ -47,7 +47,7 @@ public:
     // Does what a menu command says.
     void run(MenuCommand command);
 
-    // Files that the desktop hands to the application object.
+    // Files that the desktop hands to the application object; they bring the main window back.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

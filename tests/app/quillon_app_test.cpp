@@ -136,7 +136,9 @@ TEST_F(QuillonAppTest, AMainWindowThatWasClosedComesBackWhenAFileIsHandedOver)
 {
     app.presentMainWindow();
     app.run(MenuCommand::CloseWindow);
-    app.presentMainWindow();
+    ASSERT_FALSE(mainWindow().isVisible());
+    QFileOpenEvent event(folder.write(QStringLiteral("handed.log"), "x\n"));
+    QCoreApplication::sendEvent(qApp, &event);
     EXPECT_TRUE(mainWindow().isVisible());
 }
 
