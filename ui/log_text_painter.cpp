@@ -5,12 +5,12 @@
 #include "ui/line_stretches.h"
 #include "ui/log_text_hit_test.h"
 #include "ui/log_text_selection.h"
-#include "ui/theme.h"
 
 #include <QPainter>
 #include <QTextLayout>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace quillon {
@@ -19,8 +19,6 @@ namespace {
 
 // What a selected line end shows, in points.
 constexpr double kLineEndMark = 4.0;
-// Lightness (of HSL, 0 to 1) from which a colour can be read on the dark background.
-constexpr float kMinimumDarkLightness = 0.55F;
 
 // The first run that ends after `offset`.
 std::vector<AttributeRun>::const_iterator runAt(const std::vector<AttributeRun>& runs,
@@ -32,20 +30,9 @@ std::vector<AttributeRun>::const_iterator runAt(const std::vector<AttributeRun>&
 
 } // namespace
 
-QColor textColorOn(const Color& color, const QPalette& palette)
-{
-    const QColor resolved = resolvedColor(color, palette);
-    if (color.components() == nullptr || appearanceOf(palette) == Appearance::Light ||
-        resolved.lightnessF() >= kMinimumDarkLightness) {
-        return resolved;
-    }
-    return QColor::fromHslF(resolved.hslHueF(), resolved.hslSaturationF(), kMinimumDarkLightness,
-                            resolved.alphaF());
-}
-
 LogTextPainter::LogTextPainter(QPainter& painter, const LogTextLayout& layout,
                                const QPalette& palette, QPointF offset)
-    : m_painter(painter), m_layout(layout), m_palette(palette), m_offset(offset)
+    : m_painter(painter), m_layout(layout), m_palette(palette), m_offset(offset), m_colors(palette)
 {
 }
 
@@ -87,11 +74,7 @@ void LogTextPainter::paintLine(qint64 line, const QRectF& clip, const LogTextSel
         locateCharacters(placed);
         paintBackgrounds(placed);
         paintSelection(placed, selection);
-        if (fragment->needsShaping) {
-            paintShaped(placed);
-        } else {
-            gatherGlyphs(placed, clip);
-        }
+        paintCharacters(placed, clip);
     }
 }
 
@@ -146,7 +129,7 @@ void LogTextPainter::paintBackgrounds(const PlacedFragment& placed)
         if (run->attributes.background) {
             fillCharacters(placed, std::max(run->start, fragment.start),
                            std::min(run->end(), fragment.end),
-                           QColor::fromRgba(resolved(*run->attributes.background)));
+                           QColor::fromRgba(m_colors.plain(*run->attributes.background)));
         }
     }
 }
@@ -154,12 +137,13 @@ void LogTextPainter::paintBackgrounds(const PlacedFragment& placed)
 void LogTextPainter::paintSelection(const PlacedFragment& placed, const LogTextSelection& selection)
 {
     const RowFragment& fragment = placed.fragment;
-    const QColor color =
-        resolvedColor(Color::system(SystemColor::SelectedTextBackground), m_palette);
+    const QColor color = selectionGround(m_palette);
     const TextPosition start =
         std::max(selection.start(), TextPosition{placed.row, fragment.start});
     const TextPosition end = std::min(selection.end(), TextPosition{placed.row, fragment.end});
+    m_selected = {};
     if (start < end) {
+        m_selected = {start.offset, end.offset};
         fillCharacters(placed, start.offset, end.offset, color);
     }
     const bool isRowEnd = fragment.end == placed.layout.text.size();
@@ -174,55 +158,70 @@ void LogTextPainter::paintSelection(const PlacedFragment& placed, const LogTextS
     }
 }
 
-void LogTextPainter::gatherGlyphs(const PlacedFragment& placed, const QRectF& clip)
+// Each run in up to three stretches: before, in and after the selection.
+void LogTextPainter::paintCharacters(const PlacedFragment& placed, const QRectF& clip)
 {
     const RowFragment& fragment = placed.fragment;
-    const MonospaceMetrics& metrics = m_layout.metrics();
-    const double baseline = placed.origin.y() + metrics.baseline();
-    const auto& runs = m_layout.rowRuns(placed.row);
-    for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
-         ++run) {
-        const QRgb color = resolved(run->attributes.foreground);
-        const qsizetype end = std::min(run->end(), fragment.end);
-        for (qsizetype at = std::max(run->start, fragment.start); at < end; ++at) {
-            const double x = xOf(placed, at);
-            if (xOf(placed, at + 1) < clip.left() || x > clip.right()) {
-                continue;
-            }
-            const char16_t character = placed.layout.text[at].unicode();
-            if (isBreakableSpace(character)) {
-                continue;
-            }
-            const Glyph glyph = metrics.glyph(character, run->attributes.weight);
-            if (glyph.font < 0) {
-                continue;
-            }
-            GlyphBatch& batch = batchFor(glyph.font, color);
-            batch.indexes.append(glyph.index);
-            batch.positions.append(QPointF(x, baseline));
-        }
-    }
-}
-
-// Glyph by glyph too: a text layout keeps to the pen that it finds, whatever formats it is given to
-// draw with, and formats that it is laid out with tear letters that join.
-void LogTextPainter::paintShaped(const PlacedFragment& placed)
-{
-    const RowFragment& fragment = placed.fragment;
-    const QTextLine line = m_shaped->lineAt(0);
-    const double rise = m_layout.metrics().baseline() - line.ascent();
-    const QPointF place = placed.origin + QPointF(toPoints(fragment.x), rise);
     const auto& runs = m_layout.rowRuns(placed.row);
     for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
          ++run) {
         const qsizetype start = std::max(run->start, fragment.start);
         const qsizetype end = std::min(run->end(), fragment.end);
-        m_painter.setPen(QColor::fromRgba(resolved(run->attributes.foreground)));
-        // Bold is left to the rows that need no shaping: here it would move what follows.
-        for (const QGlyphRun& glyphs : line.glyphRuns(static_cast<int>(start - fragment.start),
-                                                      static_cast<int>(end - start))) {
-            m_painter.drawGlyphRun(place, glyphs);
+        const std::array cuts{start, std::clamp(m_selected.first, start, end),
+                              std::clamp(m_selected.second, start, end), end};
+        for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
+            if (cuts[i] == cuts[i + 1]) {
+                continue;
+            }
+            const Color& color = run->attributes.foreground;
+            const Stretch stretch{cuts[i], cuts[i + 1], run->attributes.weight,
+                                  i == 1 ? m_colors.selected(color) : m_colors.plain(color)};
+            if (fragment.needsShaping) {
+                paintShaped(placed, stretch);
+            } else {
+                gatherGlyphs(placed, stretch, clip);
+            }
         }
+    }
+}
+
+void LogTextPainter::gatherGlyphs(const PlacedFragment& placed, const Stretch& stretch,
+                                  const QRectF& clip)
+{
+    const MonospaceMetrics& metrics = m_layout.metrics();
+    const double baseline = placed.origin.y() + metrics.baseline();
+    for (qsizetype at = stretch.start; at < stretch.end; ++at) {
+        const double x = xOf(placed, at);
+        if (xOf(placed, at + 1) < clip.left() || x > clip.right()) {
+            continue;
+        }
+        const char16_t character = placed.layout.text[at].unicode();
+        if (isBreakableSpace(character)) {
+            continue;
+        }
+        const Glyph glyph = metrics.glyph(character, stretch.weight);
+        if (glyph.font < 0) {
+            continue;
+        }
+        GlyphBatch& batch = batchFor(glyph.font, stretch.color);
+        batch.indexes.append(glyph.index);
+        batch.positions.append(QPointF(x, baseline));
+    }
+}
+
+// Glyph by glyph too: a text layout keeps to the pen that it finds, whatever formats it is given to
+// draw with, and formats that it is laid out with tear letters that join.
+void LogTextPainter::paintShaped(const PlacedFragment& placed, const Stretch& stretch)
+{
+    const RowFragment& fragment = placed.fragment;
+    const QTextLine line = m_shaped->lineAt(0);
+    const double rise = m_layout.metrics().baseline() - line.ascent();
+    const QPointF place = placed.origin + QPointF(toPoints(fragment.x), rise);
+    m_painter.setPen(QColor::fromRgba(stretch.color));
+    // Bold is left to the rows that need no shaping: here it would move what follows.
+    for (const QGlyphRun& glyphs : line.glyphRuns(static_cast<int>(stretch.start - fragment.start),
+                                                  static_cast<int>(stretch.end - stretch.start))) {
+        m_painter.drawGlyphRun(place, glyphs);
     }
 }
 
@@ -254,17 +253,6 @@ LogTextPainter::GlyphBatch& LogTextPainter::batchFor(int font, QRgb color)
         m_batches.push_back(GlyphBatch{font, color, {}, {}});
     }
     return m_batches[m_lastBatch];
-}
-
-QRgb LogTextPainter::resolved(const Color& color)
-{
-    for (const auto& [known, pixels] : m_colors) {
-        if (known == color) {
-            return pixels;
-        }
-    }
-    m_colors.emplace_back(color, textColorOn(color, m_palette).rgba());
-    return m_colors.back().second;
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/log_text_colors.h"
 #include "ui/log_text_layout.h"
 
 #include <QGlyphRun>
@@ -19,10 +20,6 @@ class QTextLayout;
 namespace quillon {
 
 class LogTextSelection;
-
-// Colours fixed for a light background, made legible on a dark one where they are too dark for it;
-// everything else as resolvedColor() has it.
-QColor textColorOn(const Color& color, const QPalette& palette);
 
 // Draws the visible part of a laid-out text. Every row on screen is visited once; the glyphs are
 // gathered by font and colour over the whole screen and drawn together, since each call for a run
@@ -54,12 +51,20 @@ private:
         const RowFragment& fragment;
         QPointF origin; // top left of the line that the fragment is part of
     };
+    // Characters [start, end) of a row that look alike.
+    struct Stretch {
+        qsizetype start;
+        qsizetype end;
+        FontWeight weight;
+        QRgb color;
+    };
 
     void paintLine(qint64 line, const QRectF& clip, const LogTextSelection& selection);
     void paintBackgrounds(const PlacedFragment& placed);
     void paintSelection(const PlacedFragment& placed, const LogTextSelection& selection);
-    void gatherGlyphs(const PlacedFragment& placed, const QRectF& clip);
-    void paintShaped(const PlacedFragment& placed);
+    void paintCharacters(const PlacedFragment& placed, const QRectF& clip);
+    void gatherGlyphs(const PlacedFragment& placed, const Stretch& stretch, const QRectF& clip);
+    void paintShaped(const PlacedFragment& placed, const Stretch& stretch);
     void paintGlyphs();
 
     void locateCharacters(const PlacedFragment& placed);
@@ -67,19 +72,20 @@ private:
     void fillCharacters(const PlacedFragment& placed, qsizetype start, qsizetype end,
                         const QColor& color);
     GlyphBatch& batchFor(int font, QRgb color);
-    QRgb resolved(const Color& color);
 
     QPainter& m_painter;
     const LogTextLayout& m_layout;
     const QPalette& m_palette;
     QPointF m_offset;
+    LogTextColors m_colors;
     std::vector<GlyphBatch> m_batches;
     std::size_t m_lastBatch = 0;
-    std::vector<std::pair<Color, QRgb>> m_colors;
     // Of the fragment at hand: where its characters begin in their line, and where the last ends;
     // or the text layout that knows it.
     std::vector<Fixed> m_places;
     std::unique_ptr<QTextLayout> m_shaped;
+    // The characters of it that are selected; none where both are the same.
+    std::pair<qsizetype, qsizetype> m_selected;
 };
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/printing.h"
 #include "tests/ui/log_text_painting_fixture.h"
-#include "ui/log_text_painter.h"
+#include "ui/log_text_colors.h"
 
 namespace quillon {
 namespace {

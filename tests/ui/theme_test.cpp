@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "ui/log_text_colors.h"
 #include "ui/style.h"
 #include "ui/theme.h"
 
@@ -7,29 +8,12 @@
 #include <QFontMetricsF>
 #include <QScreen>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 
 namespace quillon {
 namespace {
-
-// The relative luminance and contrast ratio of the Web Content Accessibility Guidelines.
-double luminance(const QColor& color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
-    return (high + 0.05) / (low + 0.05);
-}
 
 QColor systemPixels(SystemColor color, Appearance appearance)
 {
@@ -79,7 +63,7 @@ TEST_P(EveryAppearance, KeepsTextsReadableOnTheirSurfaces)
     };
     const QPalette palette = paletteFor(GetParam());
     for (const auto& [text, surface] : kPairs) {
-        EXPECT_GE(contrast(palette.color(text), palette.color(surface)), 4.5)
+        EXPECT_GE(contrastRatio(palette.color(text), palette.color(surface)), 4.5)
             << "role " << text << " on role " << surface;
     }
 }
@@ -91,7 +75,7 @@ TEST_P(EveryAppearance, KeepsSystemColoursReadableOnTheTextBackground)
          {SystemColor::Text, SystemColor::SecondaryLabel, SystemColor::Label, SystemColor::Red,
           SystemColor::Orange, SystemColor::Yellow, SystemColor::Blue, SystemColor::Purple,
           SystemColor::Gray}) {
-        EXPECT_GE(contrast(systemPixels(color, GetParam()), background), 4.5)
+        EXPECT_GE(contrastRatio(systemPixels(color, GetParam()), background), 4.5)
             << systemColorName(color).data();
     }
 }
@@ -100,15 +84,15 @@ TEST_P(EveryAppearance, KeepsTheSecondaryLabelReadableOnWindowsAndControls)
 {
     const QColor label = systemPixels(SystemColor::SecondaryLabel, GetParam());
     const QPalette palette = paletteFor(GetParam());
-    EXPECT_GE(contrast(label, palette.color(QPalette::Window)), 4.5);
-    EXPECT_GE(contrast(label, palette.color(QPalette::AlternateBase)), 4.5);
-    EXPECT_GE(contrast(label, systemPixels(SystemColor::ControlBackground, GetParam())), 4.5);
+    EXPECT_GE(contrastRatio(label, palette.color(QPalette::Window)), 4.5);
+    EXPECT_GE(contrastRatio(label, palette.color(QPalette::AlternateBase)), 4.5);
+    EXPECT_GE(contrastRatio(label, systemPixels(SystemColor::ControlBackground, GetParam())), 4.5);
 }
 
 TEST_P(EveryAppearance, KeepsSelectedTextReadable)
 {
-    EXPECT_GE(contrast(systemPixels(SystemColor::Text, GetParam()),
-                       systemPixels(SystemColor::SelectedTextBackground, GetParam())),
+    EXPECT_GE(contrastRatio(systemPixels(SystemColor::Text, GetParam()),
+                            systemPixels(SystemColor::SelectedTextBackground, GetParam())),
               4.5);
 }
 
