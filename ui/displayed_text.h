@@ -8,7 +8,8 @@ namespace quillon {
 class AttributedRow;
 
 // The character drawn for a character of the log: a control character shows as its picture
-// (U+2400 and on), so that nothing in a log is invisible; all others show as themselves. Tabs stay.
+// (U+2400 and on, which MonospaceMetrics spells out where no font has it), so that nothing in a log
+// is invisible; all others show as themselves. Tabs stay.
 char16_t displayedCharacter(char16_t character);
 
 // The row as it is drawn, without its line feed: the number, a tab and the line's text. As many

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/log_text_painter.h"
 
+#include "ui/control_letters.h"
 #include "ui/displayed_text.h"
 #include "ui/line_stretches.h"
 #include "ui/log_text_hit_test.h"
@@ -201,6 +202,9 @@ void LogTextPainter::gatherGlyphs(const PlacedFragment& placed, const Stretch& s
         }
         const Glyph glyph = metrics.glyph(character, stretch.weight);
         if (glyph.font < 0) {
+            if (glyph.font == Glyph::kSpelled) {
+                gatherSpelling(character, stretch, QPointF(x, baseline));
+            }
             continue;
         }
         GlyphBatch& batch = batchFor(glyph.font, stretch.color);
@@ -209,18 +213,57 @@ void LogTextPainter::gatherGlyphs(const PlacedFragment& placed, const Stretch& s
     }
 }
 
-// Glyph by glyph too: a text layout keeps to the pen that it finds, whatever formats it is given to
-// draw with, and formats that it is laid out with tear letters that join.
+void LogTextPainter::gatherSpelling(char16_t picture, const Stretch& stretch, QPointF place)
+{
+    for (const PictureLetter& letter : m_layout.metrics().spelling(picture, stretch.weight)) {
+        if (letter.glyph.font >= 0) {
+            GlyphBatch& batch = batchFor(letter.glyph.font, stretch.color);
+            batch.indexes.append(letter.glyph.index);
+            batch.positions.append(place + letter.place);
+        }
+    }
+}
+
+// Around the pictures that are spelled out, which the text layout has an empty box for.
 void LogTextPainter::paintShaped(const PlacedFragment& placed, const Stretch& stretch)
 {
+    const RowFragment& fragment = placed.fragment;
+    const MonospaceMetrics& metrics = m_layout.metrics();
+    const double left = placed.origin.x() + toPoints(fragment.x);
+    const double baseline = placed.origin.y() + metrics.baseline();
+    m_painter.setPen(QColor::fromRgba(stretch.color));
+    qsizetype start = stretch.start;
+    for (qsizetype at = stretch.start; at < stretch.end; ++at) {
+        const char16_t character = placed.layout.text[at].unicode();
+        // Of other characters here the metrics have no glyph to tell.
+        if (controlLetters(character).empty() ||
+            metrics.glyph(character, FontWeight::Regular).font != Glyph::kSpelled) {
+            continue;
+        }
+        paintShapedGlyphs(placed, start, at);
+        start = at + 1;
+        const auto boxes = stretchesOf(*m_shaped, at - fragment.start, start - fragment.start);
+        if (!boxes.empty()) {
+            gatherSpelling(character, stretch, QPointF(left + boxes.front().left, baseline));
+        }
+    }
+    paintShapedGlyphs(placed, start, stretch.end);
+}
+
+// Glyph by glyph too: a text layout keeps to the pen that it finds, whatever formats it is given to
+// draw with, and formats that it is laid out with tear letters that join.
+void LogTextPainter::paintShapedGlyphs(const PlacedFragment& placed, qsizetype start, qsizetype end)
+{
+    if (start == end) {
+        return;
+    }
     const RowFragment& fragment = placed.fragment;
     const QTextLine line = m_shaped->lineAt(0);
     const double rise = m_layout.metrics().baseline() - line.ascent();
     const QPointF place = placed.origin + QPointF(toPoints(fragment.x), rise);
-    m_painter.setPen(QColor::fromRgba(stretch.color));
     // Bold is left to the rows that need no shaping: here it would move what follows.
-    for (const QGlyphRun& glyphs : line.glyphRuns(static_cast<int>(stretch.start - fragment.start),
-                                                  static_cast<int>(stretch.end - stretch.start))) {
+    for (const QGlyphRun& glyphs :
+         line.glyphRuns(static_cast<int>(start - fragment.start), static_cast<int>(end - start))) {
         m_painter.drawGlyphRun(place, glyphs);
     }
 }

@@ -64,7 +64,9 @@ private:
     void paintSelection(const PlacedFragment& placed, const LogTextSelection& selection);
     void paintCharacters(const PlacedFragment& placed, const QRectF& clip);
     void gatherGlyphs(const PlacedFragment& placed, const Stretch& stretch, const QRectF& clip);
+    void gatherSpelling(char16_t picture, const Stretch& stretch, QPointF place);
     void paintShaped(const PlacedFragment& placed, const Stretch& stretch);
+    void paintShapedGlyphs(const PlacedFragment& placed, qsizetype start, qsizetype end);
     void paintGlyphs();
 
     void locateCharacters(const PlacedFragment& placed);

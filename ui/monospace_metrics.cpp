@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ui/monospace_metrics.h"
 
+#include "ui/control_letters.h"
 #include "ui/displayed_text.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace quillon {
 
@@ -20,6 +23,12 @@ constexpr char16_t kGapStart = 0x180;
 constexpr char16_t kGapEnd = 0x2010;
 // Room between lines of a log, as a part of the font's own height.
 constexpr double kLineSpacing = 1.15;
+// The letters that spell out a picture, to those of the font; the baselines of the first one above
+// that of the row and of the second one below it, as parts of the font's size. Capitals are three
+// quarters of it high, so that the letters stand clear of each other and of the neighbouring lines.
+constexpr double kLetterScale = 0.62;
+constexpr double kRise = 0.35;
+constexpr double kDrop = 0.14;
 
 // The characters of a range, without those of the smaller ranges.
 QString charactersOf(CharacterRange range)
@@ -35,6 +44,17 @@ QString charactersOf(CharacterRange range)
         }
     }
     return characters;
+}
+
+QFont letterFont(QFont font)
+{
+    if (font.pixelSize() > 0) {
+        font.setPixelSize(
+            std::max(1, static_cast<int>(std::round(font.pixelSize() * kLetterScale))));
+    } else {
+        font.setPointSizeF(font.pointSizeF() * kLetterScale);
+    }
+    return font;
 }
 
 } // namespace
@@ -107,9 +127,8 @@ std::optional<Fixed> MonospaceMetrics::findAdvance(char16_t character) const
     return kept;
 }
 
-Glyph MonospaceMetrics::glyph(char16_t character, FontWeight weight) const
+Glyph MonospaceMetrics::glyphIn(Face& face, char16_t character) const
 {
-    Face& face = m_faces[static_cast<std::size_t>(weight)];
     auto& page = face.pages[character / kPageSize];
     if (!page) {
         page = std::make_unique<GlyphPage>();
@@ -140,7 +159,26 @@ Glyph MonospaceMetrics::findGlyph(char16_t character, const Face& face) const
     if (runs.isEmpty() || runs.front().glyphIndexes().isEmpty()) {
         return Glyph{};
     }
-    return Glyph{runs.front().glyphIndexes().front(), indexOfFont(runs.front().rawFont())};
+    const quint32 index = runs.front().glyphIndexes().front();
+    // A font has the same box, or nothing, for all the characters that it lacks.
+    if (index == 0 && !controlLetters(text.front().unicode()).empty()) {
+        return Glyph{index, Glyph::kSpelled};
+    }
+    return Glyph{index, indexOfFont(runs.front().rawFont())};
+}
+
+std::array<PictureLetter, 2> MonospaceMetrics::spelling(char16_t picture, FontWeight weight) const
+{
+    auto& face = m_letterFaces[static_cast<std::size_t>(weight)];
+    if (!face) {
+        const QFont font = letterFont(this->font(weight));
+        face = std::make_unique<Face>(Face{font, QRawFont::fromFont(font), {}});
+    }
+    const std::u16string_view letters = controlLetters(picture);
+    const double size = QFontInfo(font(weight)).pixelSize();
+    const double right = toPoints(m_columnAdvance) * (1 - kLetterScale);
+    return {PictureLetter{glyphIn(*face, letters[0]), QPointF(0, -std::round(kRise * size))},
+            PictureLetter{glyphIn(*face, letters[1]), QPointF(right, std::round(kDrop * size))}};
 }
 
 int MonospaceMetrics::indexOfFont(const QRawFont& font) const

@@ -6,6 +6,7 @@
 #include "ui/text_units.h"
 
 #include <QFont>
+#include <QPointF>
 #include <QRawFont>
 #include <QStringView>
 
@@ -18,9 +19,19 @@ namespace quillon {
 
 // A glyph to draw: its index in one of MonospaceMetrics' fonts.
 struct Glyph {
+    static constexpr int kNothing = -1;
+    static constexpr int kSpelled = -2;
+
     quint32 index = 0;
-    // -1 where there is nothing to draw.
-    int font = -1;
+    // kNothing where there is nothing to draw; kSpelled for the picture of a control character that
+    // no font has, which MonospaceMetrics::spelling() takes the place of.
+    int font = kNothing;
+};
+
+// One of the small letters of a picture that is spelled out.
+struct PictureLetter {
+    Glyph glyph;
+    QPointF place; // points from where the character's glyph would stand on the baseline
 };
 
 // Advances and glyphs of one monospaced font (regular and bold) at one size, each looked up once
@@ -68,7 +79,13 @@ public:
 
     // The glyph of a character that needs no shaping. The bold one is drawn at the places of the
     // regular one.
-    [[nodiscard]] Glyph glyph(char16_t character, FontWeight weight) const;
+    [[nodiscard]] Glyph glyph(char16_t character, FontWeight weight) const
+    {
+        return glyphIn(m_faces[static_cast<std::size_t>(weight)], character);
+    }
+    // What to draw within one column for a picture whose glyph is kSpelled: two small letters, the
+    // second one lower than the first, so that they are not taken for text of the log.
+    [[nodiscard]] std::array<PictureLetter, 2> spelling(char16_t picture, FontWeight weight) const;
     [[nodiscard]] const QRawFont& glyphFont(int font) const;
 
 private:
@@ -91,10 +108,13 @@ private:
     bool examineUpTo(CharacterRange range) const;
     [[nodiscard]] bool haveColumnAdvance(const QString& characters) const;
     [[nodiscard]] std::optional<Fixed> findAdvance(char16_t character) const;
+    Glyph glyphIn(Face& face, char16_t character) const;
     [[nodiscard]] Glyph findGlyph(char16_t character, const Face& face) const;
     int indexOfFont(const QRawFont& font) const;
 
     mutable std::array<Face, 2> m_faces;
+    // Made once a text has a picture to be spelled out.
+    mutable std::array<std::unique_ptr<Face>, 2> m_letterFaces;
     mutable std::vector<QRawFont> m_fonts;
     // By UTF-16 unit; a character without width of its own is kept as the narrowest.
     mutable std::array<std::unique_ptr<AdvancePage>, kPageSize> m_advances;

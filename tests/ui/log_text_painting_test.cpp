@@ -174,12 +174,46 @@ TEST_F(LogTextPainting, RowsThatNeedShapingArePainted)
     }
 }
 
-TEST_F(LogTextPainting, ControlCharactersAreVisible)
+TEST_F(LogTextPainting, ControlCharactersAreVisibleAndAllDifferent)
 {
-    show(wrapped(sampleText({QString(QChar(0)) + QChar(0x1B) + QChar(0x7F)})));
-    const QImage image = painted();
-    for (qsizetype offset = 2; offset < 5; ++offset) {
-        EXPECT_GT(inkIn(image, boxOf(0, offset, offset + 1)), 5) << offset;
+    QString controls;
+    for (char16_t control = 0; control <= 0x7F; control = control == 0x1F ? 0x7F : control + 1) {
+        if (control != u'\t') {
+            controls += QChar(control);
+            controls += u' ';
+        }
+    }
+    for (const QString& ending : {QString(), QStringLiteral("e\u0301"), QStringLiteral("שגיאה")}) {
+        show(unwrapped(sampleText({controls + ending})), QSize(900, 100));
+        const QImage image = painted();
+        std::vector<QImage> pictures;
+        for (qsizetype at = 2; at < controls.size(); at += 2) {
+            const QRect box = boxOf(0, at, at + 1);
+            EXPECT_GT(inkIn(image, box), 8) << at;
+            const QRect shape(box.topLeft(), QSize(7, box.height()));
+            pictures.push_back(image.copy(shape));
+        }
+        for (std::size_t one = 0; one < pictures.size(); ++one) {
+            for (std::size_t other = 0; other < one; ++other) {
+                EXPECT_NE(pictures[one], pictures[other]) << one << " " << other;
+            }
+        }
+    }
+}
+
+TEST_F(LogTextPainting, AControlCharacterHasTheColourOfItsRunAndStaysInItsColumn)
+{
+    const auto runs = [](const AttributedRow& row) {
+        return std::vector<AttributeRun>{{0, 4, {}}, {4, 1, inRed()}, {5, row.length() - 5, {}}};
+    };
+    for (const QString& ending : {QString(), QStringLiteral(" e\u0301")}) {
+        show(wrapped(sampleText({QStringLiteral("  \u001B  x") + ending}, runs)));
+        const QImage image = painted();
+        const QRect box = boxOf(0, 4, 5);
+        EXPECT_GT(count(image, box, isReddish), 5);
+        EXPECT_EQ(inkIn(image, boxOf(0, 2, 3)), 0);
+        EXPECT_EQ(inkIn(image, boxOf(0, 6, 7)), 0);
+        EXPECT_EQ(count(image, image.rect(), isReddish), count(image, box, isReddish));
     }
 }
 

@@ -9,6 +9,9 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <set>
+#include <tuple>
+#include <vector>
 
 namespace quillon {
 namespace {
@@ -92,11 +95,69 @@ TEST_F(MonospaceMetricsTest, ASpaceHasNothingToDraw)
 
 TEST_F(MonospaceMetricsTest, EveryCharacterWithAnAdvanceHasAGlyph)
 {
-    const QString text = QStringLiteral("aé’…错エОΣ→│©") + QChar(0) + QChar(0x1B) + QChar(0x7F);
+    const QString text = QStringLiteral("aé’…错エОΣ→│©");
     for (const QChar character : text) {
         for (const FontWeight weight : {FontWeight::Regular, FontWeight::Bold}) {
             EXPECT_GE(metrics->glyph(character.unicode(), weight).font, 0)
                 << ::testing::PrintToString(QString(character));
+        }
+    }
+}
+
+// What is drawn for a character: glyphs of fonts at places.
+using Drawing = std::vector<std::tuple<int, quint32, double, double>>;
+
+Drawing drawingOf(const MonospaceMetrics& metrics, char16_t character, FontWeight weight)
+{
+    const Glyph glyph = metrics.glyph(character, weight);
+    if (glyph.font != Glyph::kSpelled) {
+        return {{glyph.font, glyph.index, 0, 0}};
+    }
+    Drawing drawing;
+    for (const PictureLetter& letter : metrics.spelling(character, weight)) {
+        drawing.emplace_back(letter.glyph.font, letter.glyph.index, letter.place.x(),
+                             letter.place.y());
+    }
+    return drawing;
+}
+
+// Also where no other font lends its pictures, and in a font measured by parts of a point.
+TEST(ControlPictures, AreDrawnAndAllDifferentWhateverFontsThereAre)
+{
+    for (const double size : {13.0, 16.5}) {
+        for (const bool isAlone : {false, true}) {
+            QFont regular = monospacedSystemFont(size, FontWeight::Regular);
+            QFont bold = monospacedSystemFont(size, FontWeight::Bold);
+            if (isAlone) {
+                regular.setStyleStrategy(QFont::NoFontMerging);
+                bold.setStyleStrategy(QFont::NoFontMerging);
+            }
+            const MonospaceMetrics metrics(regular, bold);
+            for (const FontWeight weight : {FontWeight::Regular, FontWeight::Bold}) {
+                std::set<Drawing> drawings;
+                for (char16_t picture = 0x2400; picture <= 0x2421; ++picture) {
+                    const Drawing drawing = drawingOf(metrics, picture, weight);
+                    for (const auto& [font, index, x, y] : drawing) {
+                        EXPECT_GE(font, 0) << int{picture};
+                        EXPECT_NE(index, 0U) << int{picture};
+                    }
+                    EXPECT_TRUE(drawings.insert(drawing).second) << int{picture};
+                }
+            }
+        }
+    }
+}
+
+TEST(ControlPictures, AreSpelledWithinOneColumn)
+{
+    for (const double size : {10.0, 13.0, 16.5, 24.0}) {
+        const auto metrics = sampleMetrics(size);
+        for (const PictureLetter& letter : metrics->spelling(u'\u2400', FontWeight::Regular)) {
+            const QRawFont& font = metrics->glyphFont(letter.glyph.font);
+            const double right =
+                letter.place.x() + font.advancesForGlyphIndexes({letter.glyph.index}).front().x();
+            EXPECT_GE(letter.place.x(), 0.0);
+            EXPECT_LE(right, toPoints(metrics->columnAdvance()) + 0.5) << size;
         }
     }
 }
