@@ -23,8 +23,15 @@ namespace quillon {
 
 namespace {
 
-// The icon is drawn in several sizes, which the log would wait for, were it done at once.
+// Drawing the icon in all its sizes takes 6 ms, which the log would wait for. So the window gets
+// one size at once, and the others when the log is there.
+constexpr int kFirstIconSize = 48;
 constexpr std::chrono::milliseconds kIconDelay{200};
+
+QIcon applicationIcon()
+{
+    return QIcon(QStringLiteral(":/AppIcon.svg"));
+}
 
 } // namespace
 
@@ -44,9 +51,9 @@ QuillonApp::QuillonApp(QApplication& application)
 {
     sharedState().defaults.registerDefaults(defaultPreferences());
     application.installEventFilter(this);
+    QApplication::setWindowIcon(applicationIcon().pixmap(kFirstIconSize));
     buildMainWindow();
-    QTimer::singleShot(kIconDelay, this,
-                       [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/AppIcon.svg"))); });
+    QTimer::singleShot(kIconDelay, this, [] { QApplication::setWindowIcon(applicationIcon()); });
 }
 
 QuillonApp::~QuillonApp() = default;

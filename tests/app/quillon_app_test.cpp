@@ -64,9 +64,11 @@ TEST_F(QuillonAppTest, EveryPreferenceHasItsDefaultOnceItIsBuilt)
     }
 }
 
-TEST_F(QuillonAppTest, TheProgramHasAnIcon)
+TEST_F(QuillonAppTest, TheProgramHasAnIconAtOnceAndInAllSizesSoon)
 {
-    EXPECT_TRUE(spinUntil([] { return !QApplication::windowIcon().pixmap(64, 64).isNull(); }));
+    constexpr QSize kLarge(128, 128);
+    EXPECT_FALSE(QApplication::windowIcon().pixmap(48).isNull());
+    EXPECT_TRUE(spinUntil([&] { return QApplication::windowIcon().actualSize(kLarge) == kLarge; }));
 }
 
 TEST_F(QuillonAppTest, TheOpenCommandPostsItsNotificationOnceAlsoWithoutALog)
