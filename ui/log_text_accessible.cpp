@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/log_text_accessible.h"
 
+#include "ui/log_text_changes.h"
 #include "ui/log_text_view.h"
 
 #include <QAccessible>
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -167,7 +169,41 @@ public:
         return textAtOffset(*end, boundary, start, end);
     }
 
+    // On Linux one hears of text that comes and goes, of the selection and of the caret, each by
+    // its own event, and of nothing else that concerns a text.
+    void announce(const LogTextChange& change)
+    {
+        if (change.kind == LogTextChange::Kind::Removed) {
+            QAccessibleTextRemoveEvent event(m_view, change.offset, change.text);
+            send(event);
+        } else {
+            QAccessibleTextInsertEvent event(m_view, change.offset, change.text);
+            send(event);
+        }
+    }
+
+    void announceSelection()
+    {
+        const LogTextSelection& current = m_view->textSelection();
+        const LogTextSelection former = std::exchange(m_announced, current);
+        if (current.start() != former.start() || current.end() != former.end()) {
+            QAccessibleTextSelectionEvent event(m_view, offsetOf(current.start()),
+                                                offsetOf(current.end()));
+            send(event);
+        }
+        if (current.caret() != former.caret()) {
+            QAccessibleTextCursorEvent event(m_view, 0);
+            send(event);
+        }
+    }
+
 private:
+    void send(QAccessibleTextCursorEvent& event) const
+    {
+        event.setCursorPosition(cursorPosition());
+        QAccessible::updateAccessibility(&event);
+    }
+
     // The offset at which each row begins, and the end of the text.
     const std::vector<qint64>& offsets() const
     {
@@ -184,7 +220,10 @@ private:
     }
     int offsetOf(TextPosition position) const
     {
-        const qint64 offset = offsets()[static_cast<std::size_t>(position.row)] + position.offset;
+        // Where the caret is after a text has been replaced: nothing has to be worked out for it.
+        const qint64 row =
+            position.row == 0 ? 0 : offsets()[static_cast<std::size_t>(position.row)];
+        const qint64 offset = row + position.offset;
         return static_cast<int>(std::min<qint64>(offset, std::numeric_limits<int>::max()));
     }
     TextPosition positionOf(int offset) const
@@ -197,6 +236,7 @@ private:
     }
 
     LogTextView* m_view;
+    LogTextSelection m_announced;
     mutable AttributedString m_text;
     mutable std::vector<qint64> m_offsets;
 };
@@ -207,6 +247,14 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     return view != nullptr ? new LogTextAccessible(view) : nullptr;
 }
 
+// What the view is to assistive programs; null where there are none.
+LogTextAccessible* listenedTo(LogTextView& view)
+{
+    return QAccessible::isActive()
+               ? dynamic_cast<LogTextAccessible*>(QAccessible::queryAccessibleInterface(&view))
+               : nullptr;
+}
+
 } // namespace
 
 void installLogTextAccessibility()
@@ -214,11 +262,21 @@ void installLogTextAccessibility()
     QAccessible::installFactory(makeInterface);
 }
 
-void announceReplacedLogText(LogTextView& view)
+void announceChangedLogText(LogTextView& view, const AttributedString& former)
 {
-    if (QAccessible::isActive()) {
+    if (LogTextAccessible* const text = listenedTo(view)) {
+        for (const LogTextChange& change : changesOfLogText(former, view.attributedText())) {
+            text->announce(change);
+        }
         QAccessibleEvent changed(&view, QAccessible::VisibleDataChanged);
         QAccessible::updateAccessibility(&changed);
+    }
+}
+
+void announceLogTextSelection(LogTextView& view)
+{
+    if (LogTextAccessible* const text = listenedTo(view)) {
+        text->announceSelection();
     }
 }
 

@@ -30,6 +30,8 @@ LogTextView::LogTextView(const LogTextContent& content, QWidget* parent)
     : QAbstractScrollArea(parent), m_content(content), m_layout(std::make_unique<LogTextLayout>())
 {
     installLogTextAccessibility();
+    connect(this, &LogTextView::selectionChanged, this,
+            [this] { announceLogTextSelection(*this); });
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -78,7 +80,8 @@ void LogTextView::replaceText()
     updateMetrics();
     settleVerticalScrollBar();
     m_isReplacementDue = false;
-    const bool isExtension = m_content.attributedText.isExtensionOf(m_layout->text());
+    const AttributedString former = m_layout->text();
+    const bool isExtension = m_content.attributedText.isExtensionOf(former);
     layOutText();
     // Rows that are still there stay selected: a log that is written to twice a second could not
     // be copied from otherwise.
@@ -90,7 +93,7 @@ void LogTextView::replaceText()
     }
     scrollToEndOfDocument();
     viewport()->update();
-    announceReplacedLogText(*this);
+    announceChangedLogText(*this, former);
 }
 
 void LogTextView::updateMetrics()

@@ -94,9 +94,9 @@ QList<AccessibleEvent> ScreenReader::heard(qint64 processId)
                                   .toArray();
     QList<AccessibleEvent> heard;
     for (const QJsonValue& event : events) {
-        heard.append({event[QStringLiteral("type")].toString(),
-                      event[QStringLiteral("detail")].toInt(),
-                      event[QStringLiteral("name")].toString()});
+        heard.append(
+            {event[QStringLiteral("type")].toString(), event[QStringLiteral("detail")].toInt(),
+             event[QStringLiteral("name")].toString(), event[QStringLiteral("text")].toString()});
     }
     return heard;
 }

@@ -28,11 +28,12 @@ struct AccessibleNode {
     [[nodiscard]] bool is(const char* state) const;
 };
 
-// A change of state that a program announced.
+// What a program announced: a change of state, or one of a text, its selection or its caret.
 struct AccessibleEvent {
     QString type;
-    int detail = 0; // 1 for a state that began, 0 for one that ended
+    int detail = 0; // 1 for a state that began, 0 for one that ended; the place in a text
     QString name;   // of the element
+    QString text;   // that has come or gone
 };
 
 // The element itself and all below it, in the order of the tree.

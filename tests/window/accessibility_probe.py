@@ -5,7 +5,8 @@
 Each line of standard input is a request in JSON, each answer one line of standard output:
 
   {"request": "tree", "pid": 12, "window": "Aide"}   the window's tree, or null while it is not there
-  {"request": "listen"}                              from here on, changes of state are collected
+  {"request": "listen"}                              from here on, changes of states and texts
+                                                     are collected
   {"request": "events", "pid": 12}                   what was collected for that program
 
 Trees end at lists and tables, which hold whole folders in a file dialog, and at the menu bar.
@@ -72,20 +73,24 @@ def tree(request):
 def collect(event):
     source = event.source
     if source is not None:
-        collected.append((source.get_process_id(), event.type, event.detail1, source.get_name()))
+        text = event.any_data if event.type.startswith("object:text-changed") else None
+        collected.append(
+            (source.get_process_id(), event.type, event.detail1, source.get_name(), text)
+        )
 
 
 def listen(_request):
     if not listeners:
         listeners.append(Atspi.EventListener.new(collect))
-        listeners[0].register("object:state-changed")
+        for kind in ("state-changed", "text-changed", "text-selection-changed", "text-caret-moved"):
+            listeners[0].register("object:" + kind)
     return True
 
 
 def events(request):
     return [
-        {"type": kind, "detail": detail, "name": name}
-        for pid, kind, detail, name in collected
+        {"type": kind, "detail": detail, "name": name, "text": text}
+        for pid, kind, detail, name, text in collected
         if pid == request["pid"]
     ]
 

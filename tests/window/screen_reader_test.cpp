@@ -64,6 +64,16 @@ protected:
                    event.name == name;
         });
     }
+    // Whether it was announced that this text has come to, or gone from, that place of the log.
+    [[nodiscard]] bool hasHeardOfText(const char* change, int place, const QString& text) const
+    {
+        const auto heard = screenReader().heard(running().process().processId());
+        return std::any_of(heard.begin(), heard.end(), [&](const AccessibleEvent& event) {
+            return event.type ==
+                       QLatin1StringView("object:text-changed:") + QLatin1StringView(change) &&
+                   event.detail == place && event.name == kContent && event.text == text;
+        });
+    }
 };
 
 TEST_F(ScreenReading, EveryToolbarControlIsNamedByItsTooltipInVisualOrder)
@@ -146,6 +156,42 @@ TEST_F(ScreenReading, TheLogGivesItsRowsAsReadOnlyText)
     const AccessibleNode log = element(mainWindow(), QStringLiteral("document frame"), kContent);
     EXPECT_TRUE(log.is("read-only"));
     EXPECT_TRUE(log.is("multi-line"));
+}
+
+TEST_F(ScreenReading, RowsThatAreWrittenToTheLogAreAnnounced)
+{
+    startWithLog("a\n", {QStringLiteral("--follow")});
+    awaitRows(QStringLiteral("1\ta\n"));
+    folder().append(kLog, "PHP Notice:  é\nb\n");
+    EXPECT_TRUE(spinUntil([this] {
+        return hasHeardOfText("insert", 4, QStringLiteral("2\tPHP Notice:  é\n3\tb\n"));
+    }));
+}
+
+TEST_F(ScreenReading, WhatASearchTakesAwayAndLeavesIsAnnounced)
+{
+    startWithLog("one\ntwo\n");
+    awaitRows(QStringLiteral("1\tone\n2\ttwo\n"));
+    desktop().press(QStringLiteral("ctrl+f"));
+    desktop().type(QStringLiteral("tw"));
+    awaitRows(QStringLiteral("2\ttwo\n"));
+    EXPECT_TRUE(spinUntil([this] {
+        return hasHeardOfText("delete", 0, QStringLiteral("1\tone\n2\ttwo\n")) &&
+               hasHeardOfText("insert", 0, QStringLiteral("2\ttwo\n"));
+    }));
+}
+
+TEST_F(ScreenReading, TheSelectionAndItsCaretAreAnnounced)
+{
+    startWithLog("one\ntwo\n");
+    awaitRows(QStringLiteral("1\tone\n2\ttwo\n"));
+    desktop().press(QStringLiteral("shift+Right"));
+    EXPECT_TRUE(spinUntil([this] {
+        return hasHeard("object:text-selection-changed", 0, kContent) &&
+               hasHeard("object:text-caret-moved", 1, kContent);
+    }));
+    desktop().press(QStringLiteral("ctrl+a"));
+    EXPECT_TRUE(spinUntil([this] { return hasHeard("object:text-caret-moved", 12, kContent); }));
 }
 
 TEST_F(ScreenReading, TheSpaceBarTurnsATogglesStateWhichIsAnnounced)
