@@ -87,6 +87,7 @@ void LogTextView::replaceText()
     // be copied from otherwise.
     if (!isExtension) {
         m_selection.clear();
+        m_caretX.reset();
         endDrag();
         horizontalScrollBar()->setValue(0);
         Q_EMIT selectionChanged();

@@ -111,6 +111,7 @@ private:
     std::shared_ptr<const MonospaceMetrics> m_metrics;
     std::unique_ptr<LogTextLayout> m_layout;
     LogTextSelection m_selection;
+    std::optional<double> m_caretX; // see Caret::x
     Clicks m_clicks;
     bool m_isSelecting = false;
     QPoint m_pointer;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The part of LogTextView that answers mouse and keyboard.
-#include "ui/log_text_hit_test.h"
+#include "ui/caret_movement.h"
 #include "ui/log_text_view.h"
 
 #include <QApplication>
@@ -35,49 +35,6 @@ SelectionGranularity granularityOf(int clicks)
     }
 }
 
-// The place that a key moves the caret to; none for other keys.
-std::optional<TextPosition> movedBy(const QKeyEvent& event, const LogTextLayout& layout,
-                                    TextPosition caret, int pageLines)
-{
-    const auto& rows = layout.text().rows();
-    const auto lastOffset = [&rows](qsizetype row) {
-        return row < rows.size() ? rows[row].length() - 1 : 0;
-    };
-    const auto lineBelow = [&](qint64 lines) {
-        const QRectF box = boxAt(layout, caret);
-        const qint64 target =
-            std::clamp<qint64>(lineOf(layout, caret) + lines, 0, layout.lineCount() - 1);
-        const double height = layout.metrics().lineHeight();
-        const double y = textOrigin().y() + (static_cast<double>(target) + 0.5) * height;
-        const TextPosition position = positionAt(layout, QPointF(box.left(), y));
-        // The end of a shorter line is already on the line after it.
-        return lineOf(layout, position) > target ? positionBefore(layout.text(), position)
-                                                 : position;
-    };
-    const bool toEdge = event.modifiers().testFlag(Qt::ControlModifier);
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return positionBefore(layout.text(), caret);
-    case Qt::Key_Right:
-        return positionAfter(layout.text(), caret);
-    case Qt::Key_Up:
-        return lineBelow(-1);
-    case Qt::Key_Down:
-        return lineBelow(1);
-    case Qt::Key_PageUp:
-        return lineBelow(-pageLines);
-    case Qt::Key_PageDown:
-        return lineBelow(pageLines);
-    case Qt::Key_Home:
-        return toEdge ? TextPosition{} : TextPosition{caret.row, 0};
-    case Qt::Key_End:
-        return toEdge ? TextPosition{rows.size(), 0}
-                      : TextPosition{caret.row, lastOffset(caret.row)};
-    default:
-        return std::nullopt;
-    }
-}
-
 } // namespace
 
 QString LogTextView::selectedText() const
@@ -106,6 +63,7 @@ void LogTextView::copy()
 
 void LogTextView::publishSelection()
 {
+    m_caretX.reset();
     viewport()->update();
     QClipboard* const clipboard = QApplication::clipboard();
     if (hasSelection() && !m_isSelecting && clipboard->supportsSelection()) {
@@ -240,12 +198,13 @@ bool LogTextView::extendOnKey(const QKeyEvent& event)
         return false;
     }
     const int pageLines = std::max(1, verticalScrollBar()->pageStep() / m_metrics->lineHeight());
-    const auto caret = movedBy(event, *m_layout, m_selection.caret(), pageLines);
+    const auto caret = movedBy(event, *m_layout, {m_selection.caret(), m_caretX}, pageLines);
     if (!caret) {
         return false;
     }
-    extendSelectionTo(*caret);
-    scrollToPosition(*caret);
+    extendSelectionTo(caret->position);
+    m_caretX = caret->x;
+    scrollToPosition(caret->position);
     return true;
 }
 

@@ -101,6 +101,63 @@ TEST_F(LogTextKeyboard, ShiftAndDownVisitEveryLineOfAWrappedRow)
     EXPECT_TRUE(view->textSelection().caret() == (TextPosition{2, 0}));
 }
 
+TEST_F(LogTextKeyboard, ShiftAndVerticalKeysKeepTheirColumnAcrossShorterLines)
+{
+    const QString line = QStringLiteral("a line of some length");
+    show(wrapped(sampleText({line, QStringLiteral("x"), QString(), line})));
+    clicks(leftOf({0, 15}), 1);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_TRUE(view->textSelection().caret() == (TextPosition{1, 3}));
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_TRUE(view->textSelection().caret() == (TextPosition{3, 15}));
+    key(Qt::Key_PageDown, Qt::ShiftModifier);
+    EXPECT_TRUE(view->textSelection().caret() == (TextPosition{4, 0}));
+    key(Qt::Key_PageUp, Qt::ShiftModifier);
+    EXPECT_TRUE(view->textSelection().caret() == (TextPosition{0, 15}));
+}
+
+TEST_F(LogTextKeyboard, AMoveAlongTheLineOrAClickSetsTheColumnAnew)
+{
+    const QString line = QStringLiteral("a line of some length");
+    show(wrapped(sampleText({line, QStringLiteral("x"), line})));
+    clicks(leftOf({0, 15}), 1);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    key(Qt::Key_Left, Qt::ShiftModifier);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_TRUE(view->textSelection().caret() == (TextPosition{2, 2}));
+    clicks(leftOf({0, 15}), 1);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    clicks(leftOf({1, 1}), 1);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_TRUE(view->textSelection().caret() == (TextPosition{2, 1}));
+}
+
+TEST_F(LogTextKeyboard, AReplacedTextHasNoColumnToKeepTo)
+{
+    const QStringList lines(3, QStringLiteral("a line of some length"));
+    show(wrapped(sampleText(lines)));
+    clicks(leftOf({0, 15}), 1);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    update(wrapped(sampleText(lines)));
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_TRUE(view->textSelection().caret() == (TextPosition{1, 0}));
+}
+
+TEST_F(LogTextKeyboard, ShiftAndControlWithArrowsMoveTheCaretByWords)
+{
+    show(wrapped(sampleText({QStringLiteral("PHP Fatal error:  boom")})));
+    clicks(leftOf({0, 8}), 1);
+    key(Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(view->selectedText(), QStringLiteral("tal "));
+    key(Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(view->selectedText(), QStringLiteral("tal error"));
+    for (int i = 0; i < 3; ++i) {
+        key(Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier);
+    }
+    EXPECT_EQ(view->selectedText(), QStringLiteral("PHP Fa"));
+}
+
 TEST_F(LogTextKeyboard, ShiftHomeAndEndReachTheEndsOfTheRowAndWithControlOfTheText)
 {
     show(wrapped(sampleText({QStringLiteral("ab"), QStringLiteral("cdef"), QStringLiteral("g")})));
@@ -194,6 +251,18 @@ TEST_F(LogTextKeyboard, ArrowsScrollByALineAndSideways)
     EXPECT_GT(horizontal().value(), 0);
     key(Qt::Key_Left);
     EXPECT_EQ(horizontal().value(), 0);
+}
+
+TEST_F(LogTextKeyboard, ControlAndArrowsScrollSidewaysAsArrowsDo)
+{
+    show(unwrapped(sampleText({QString(300, u'w')})));
+    key(Qt::Key_Right);
+    const int step = horizontal().value();
+    key(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(horizontal().value(), 2 * step);
+    key(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(horizontal().value(), step);
+    EXPECT_FALSE(view->hasSelection());
 }
 
 TEST_F(LogTextKeyboard, ScrollingKeysLeaveTheSelectionAlone)
