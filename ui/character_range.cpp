@@ -69,9 +69,4 @@ CharacterRange characterRangeOf(QStringView text)
     return range;
 }
 
-bool isInRange(char16_t character, CharacterRange range)
-{
-    return rangeOf(character) <= range;
-}
-
 } // namespace quillon

@@ -23,7 +23,4 @@ CharacterRange characterRangeOf(QStringView text);
 // which are looked at together.
 qsizetype asciiBlocks(QStringView text);
 
-// Whether the character is in the range, which is not Any.
-bool isInRange(char16_t character, CharacterRange range);
-
 } // namespace quillon
