@@ -6,7 +6,6 @@
 #include "ui/log_text_painter.h"
 #include "ui/theme.h"
 
-#include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QResizeEvent>
@@ -224,14 +223,6 @@ void LogTextView::fitToClip()
         verticalScrollBar()->setValue(static_cast<int>(boxAt(*m_layout, top).top() + hidden));
     }
     viewport()->update();
-}
-
-void LogTextView::changeEvent(QEvent* event)
-{
-    QAbstractScrollArea::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange) {
-        viewport()->update();
-    }
 }
 
 } // namespace quillon
