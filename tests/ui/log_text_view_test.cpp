@@ -284,13 +284,6 @@ TEST_F(LogTextViewTest, TypingDoesNotChangeTheText)
     EXPECT_FALSE(view->testAttribute(Qt::WA_InputMethodEnabled));
 }
 
-TEST_F(LogTextViewTest, NothingIsSubstitutedForQuotesAndDashes)
-{
-    show(wrapped(sampleText({QStringLiteral("\"a\" -- 'b'")})));
-    view->selectAll();
-    EXPECT_EQ(view->selectedText(), QStringLiteral("1\t\"a\" -- 'b'\n"));
-}
-
 TEST_F(LogTextViewTest, TheSelectionIsKeptWhenTheTextIsExtended)
 {
     AttributedString text = sampleText(manyLines(20));
@@ -320,6 +313,14 @@ TEST_F(LogTextViewTest, ThePositionWithinALongLineIsKeptWhenTheTextIsExtended)
     appendRows(text, {QStringLiteral("new")});
     update(unwrapped(text));
     EXPECT_EQ(horizontal().value(), 700);
+}
+
+TEST_F(LogTextViewTest, AReplacedTextIsShownFromTheBeginningsOfItsLines)
+{
+    show(unwrapped(sampleText({QString(500, u'w')})));
+    horizontal().setValue(700);
+    update(unwrapped(sampleText({QString(500, u'm')})));
+    EXPECT_EQ(horizontal().value(), 0);
 }
 
 } // namespace

@@ -193,6 +193,12 @@ TEST(DisplayedText, ShowsControlCharactersAsTheirPictures)
     EXPECT_EQ(displayedText(sampleRow(line, 7)), QStringLiteral("7\t\u2400\u241B\u2421\u240D\ta"));
 }
 
+TEST(DisplayedText, ShowsQuotesAndDashesAsTheyAre)
+{
+    const QString line = QStringLiteral("\"a\" -- 'b' ``c'' ... (c) -> --- “d” – ’");
+    EXPECT_EQ(displayedText(sampleRow(line)), QStringLiteral("1\t") + line);
+}
+
 TEST(DisplayedText, KeepsByteOrderMarksAndReplacementCharacters)
 {
     EXPECT_EQ(displayedText(sampleRow(QStringLiteral("\uFEFFa\uFFFD"))),
