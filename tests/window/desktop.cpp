@@ -146,9 +146,18 @@ QImage Desktop::picture(const QString& windowId) const
 
 QString Desktop::clipboard() const
 {
+    return selection(QStringLiteral("clipboard"));
+}
+
+QString Desktop::primarySelection() const
+{
+    return selection(QStringLiteral("primary"));
+}
+
+QString Desktop::selection(const QString& name) const
+{
     return QString::fromUtf8(
-        ask(QStringLiteral("xclip"),
-            {QStringLiteral("-o"), QStringLiteral("-selection"), QStringLiteral("clipboard")}));
+        ask(QStringLiteral("xclip"), {QStringLiteral("-o"), QStringLiteral("-selection"), name}));
 }
 
 void Desktop::startScreen()

@@ -52,8 +52,11 @@ public:
     // What the window looks like now.
     [[nodiscard]] QImage picture(const QString& windowId) const;
     [[nodiscard]] QString clipboard() const;
+    // What the middle button would paste.
+    [[nodiscard]] QString primarySelection() const;
 
 private:
+    [[nodiscard]] QString selection(const QString& name) const;
     void startScreen();
     void startBus();
     void startWindowManager();

@@ -116,5 +116,14 @@ TEST_F(Keyboard, CtrlASelectsTheLogAndCtrlCCopiesIt)
         spinUntil([] { return desktop().clipboard() == QStringLiteral("1\tPHP Notice:  a\n"); }));
 }
 
+TEST_F(Keyboard, SelectingTheLogMakesItWhatTheMiddleButtonPastes)
+{
+    startWithLog("PHP Notice:  a\n");
+    awaitRows(QStringLiteral("1\tPHP Notice:  a\n"));
+    desktop().press(QStringLiteral("ctrl+a"));
+    EXPECT_TRUE(spinUntil(
+        [] { return desktop().primarySelection() == QStringLiteral("1\tPHP Notice:  a\n"); }));
+}
+
 } // namespace
 } // namespace quillon
