@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/log_text_hit_test.h"
 
-#include "ui/line_stretches.h"
 #include "ui/log_text_selection.h"
 #include "ui/text_geometry.h"
-
-#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -30,18 +27,13 @@ LineStretch edgesOf(const LogTextLayout& layout, qsizetype row, const RowFragmen
     if (offset == fragment.end) {
         return {left, left};
     }
-    if (!fragment.needsShaping) {
+    if (!fragment.needsShaping()) {
         return {left, toPoints(layouter.xOf(rowLayout, fragment, offset + 1))};
     }
     const qsizetype end =
         std::min(fragment.end, positionAfter(layout.text(), TextPosition{row, offset}).offset);
-    const auto stretches = stretchesOf(*layouter.shape(rowLayout, fragment),
-                                       offset - fragment.start, end - fragment.start);
-    if (stretches.empty()) {
-        return {left, left};
-    }
-    const double start = toPoints(fragment.x);
-    return {start + stretches.front().left, start + stretches.front().right};
+    const auto stretches = layouter.shapedLine(rowLayout, fragment).stretchesOf(offset, end);
+    return stretches.empty() ? LineStretch{left, left} : stretches.front();
 }
 
 } // namespace

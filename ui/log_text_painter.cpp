@@ -3,12 +3,10 @@
 
 #include "ui/control_letters.h"
 #include "ui/displayed_text.h"
-#include "ui/line_stretches.h"
 #include "ui/log_text_hit_test.h"
 #include "ui/log_text_selection.h"
 
 #include <QPainter>
-#include <QTextLayout>
 
 #include <algorithm>
 #include <array>
@@ -84,8 +82,8 @@ void LogTextPainter::locateCharacters(const PlacedFragment& placed)
     const RowFragment& fragment = placed.fragment;
     m_places.clear();
     m_shaped.reset();
-    if (fragment.needsShaping) {
-        m_shaped = m_layout.layouter().shape(placed.layout, fragment);
+    if (fragment.needsShaping()) {
+        m_shaped.emplace(m_layout.layouter().shapedLine(placed.layout, fragment));
         return;
     }
     Fixed x = fragment.x;
@@ -107,17 +105,15 @@ double LogTextPainter::xOf(const PlacedFragment& placed, qsizetype offset) const
 void LogTextPainter::fillCharacters(const PlacedFragment& placed, qsizetype start, qsizetype end,
                                     const QColor& color)
 {
-    const RowFragment& fragment = placed.fragment;
     const double height = m_layout.metrics().lineHeight();
     if (!m_shaped) {
         const double left = xOf(placed, start);
         m_painter.fillRect(QRectF(left, placed.origin.y(), xOf(placed, end) - left, height), color);
         return;
     }
-    const double x = placed.origin.x() + toPoints(fragment.x);
-    for (const auto& [left, right] :
-         stretchesOf(*m_shaped, start - fragment.start, end - fragment.start)) {
-        m_painter.fillRect(QRectF(x + left, placed.origin.y(), right - left, height), color);
+    for (const auto& [left, right] : m_shaped->stretchesOf(start, end)) {
+        m_painter.fillRect(
+            QRectF(placed.origin.x() + left, placed.origin.y(), right - left, height), color);
     }
 }
 
@@ -150,10 +146,8 @@ void LogTextPainter::paintSelection(const PlacedFragment& placed, const LogTextS
     const bool isRowEnd = fragment.end == placed.layout.text.size();
     const TextPosition lineFeed{placed.row, placed.layout.text.size()};
     if (isRowEnd && selection.start() <= lineFeed && selection.end() > lineFeed) {
-        const double x =
-            placed.origin.x() +
-            toPoints(m_shaped ? fragment.x + toFixed(m_shaped->lineAt(0).naturalTextWidth())
-                              : m_places.back());
+        const double x = placed.origin.x() +
+                         (m_shaped ? m_shaped->xOf(fragment.end) : toPoints(m_places.back()));
         m_painter.fillRect(
             QRectF(x, placed.origin.y(), kLineEndMark, m_layout.metrics().lineHeight()), color);
     }
@@ -177,7 +171,7 @@ void LogTextPainter::paintCharacters(const PlacedFragment& placed, const QRectF&
             const Color& color = run->attributes.foreground;
             const Stretch stretch{cuts[i], cuts[i + 1], run->attributes.weight,
                                   i == 1 ? m_colors.selected(color) : m_colors.plain(color)};
-            if (fragment.needsShaping) {
+            if (fragment.needsShaping()) {
                 paintShaped(placed, stretch);
             } else {
                 gatherGlyphs(placed, stretch, clip);
@@ -227,9 +221,7 @@ void LogTextPainter::gatherSpelling(char16_t picture, const Stretch& stretch, QP
 // Around the pictures that are spelled out, which the text layout has an empty box for.
 void LogTextPainter::paintShaped(const PlacedFragment& placed, const Stretch& stretch)
 {
-    const RowFragment& fragment = placed.fragment;
     const MonospaceMetrics& metrics = m_layout.metrics();
-    const double left = placed.origin.x() + toPoints(fragment.x);
     const double baseline = placed.origin.y() + metrics.baseline();
     m_painter.setPen(QColor::fromRgba(stretch.color));
     qsizetype start = stretch.start;
@@ -242,9 +234,10 @@ void LogTextPainter::paintShaped(const PlacedFragment& placed, const Stretch& st
         }
         paintShapedGlyphs(placed, start, at);
         start = at + 1;
-        const auto boxes = stretchesOf(*m_shaped, at - fragment.start, start - fragment.start);
+        const auto boxes = m_shaped->stretchesOf(at, start);
         if (!boxes.empty()) {
-            gatherSpelling(character, stretch, QPointF(left + boxes.front().left, baseline));
+            const double x = placed.origin.x() + boxes.front().left;
+            gatherSpelling(character, stretch, QPointF(x, baseline));
         }
     }
     paintShapedGlyphs(placed, start, stretch.end);
@@ -257,13 +250,10 @@ void LogTextPainter::paintShapedGlyphs(const PlacedFragment& placed, qsizetype s
     if (start == end) {
         return;
     }
-    const RowFragment& fragment = placed.fragment;
-    const QTextLine line = m_shaped->lineAt(0);
-    const double rise = m_layout.metrics().baseline() - line.ascent();
-    const QPointF place = placed.origin + QPointF(toPoints(fragment.x), rise);
+    const double rise = m_layout.metrics().baseline() - m_shaped->ascent();
+    const QPointF place = placed.origin + QPointF(m_shaped->layoutX(), rise);
     // Bold is left to the rows that need no shaping: here it would move what follows.
-    for (const QGlyphRun& glyphs :
-         line.glyphRuns(static_cast<int>(start - fragment.start), static_cast<int>(end - start))) {
+    for (const QGlyphRun& glyphs : m_shaped->glyphRuns(start, end)) {
         m_painter.drawGlyphRun(place, glyphs);
     }
 }

@@ -10,12 +10,11 @@
 #include <QPointF>
 #include <QRectF>
 
-#include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
 class QPainter;
-class QTextLayout;
 
 namespace quillon {
 
@@ -83,9 +82,9 @@ private:
     std::vector<GlyphBatch> m_batches;
     std::size_t m_lastBatch = 0;
     // Of the fragment at hand: where its characters begin in their line, and where the last ends;
-    // or the text layout that knows it.
+    // or the line of a text layout that knows it.
     std::vector<Fixed> m_places;
-    std::unique_ptr<QTextLayout> m_shaped;
+    std::optional<ShapedLine> m_shaped;
     // The characters of it that are selected; none where both are the same.
     std::pair<qsizetype, qsizetype> m_selected;
 };

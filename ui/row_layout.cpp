@@ -73,7 +73,8 @@ std::pair<std::size_t, std::size_t> RowLayout::fragmentsOfLine(qsizetype line) c
 RowLayouter::RowLayouter(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
                          std::optional<Fixed> lineWidth)
     : m_metrics(metrics), m_opportunities(opportunities), m_lineWidth(lineWidth),
-      m_breaker(metrics, opportunities, lineWidth.value_or(std::numeric_limits<Fixed>::max()))
+      m_breaker(metrics, opportunities, lineWidth.value_or(std::numeric_limits<Fixed>::max())),
+      m_shaper(metrics, lineWidth)
 {
 }
 
@@ -188,75 +189,112 @@ RowLayout RowLayouter::layOut(const AttributedRow& row) const
     RowLayout layout;
     layout.text = displayedText(row);
     if (m_lineWidth) {
-        layOutWrapped(layout);
+        layOutWrapped(layout, row.prefixLength());
     } else {
-        layOutUnwrapped(layout);
+        layOutUnwrapped(layout, row.prefixLength());
     }
     return layout;
 }
 
-// Rows that need no shaping are one piece of any length; the others are cut.
-std::vector<RowFragment> RowLayouter::pieces(QStringView text) const
+// Rows that need no shaping are one piece of any length; the others are cut. The number and its tab
+// are never part of a piece that needs shaping.
+std::vector<RowLayouter::Piece> RowLayouter::pieces(QStringView text, qsizetype prefixLength) const
 {
     if (!needsLayout(text)) {
-        return {RowFragment{.start = 0, .end = text.size()}};
+        return {Piece{0, text.size(), false}};
     }
-    std::vector<RowFragment> pieces;
+    std::vector<Piece> pieces;
     qsizetype start = 0;
     do {
         const qsizetype end = pieceEnd(text, start);
-        pieces.push_back(RowFragment{.start = start,
-                                     .end = end,
-                                     .needsShaping = needsLayout(text.sliced(start, end - start))});
+        const bool isShaped = needsLayout(text.sliced(start, end - start));
+        if (isShaped && start == 0) {
+            pieces.push_back(Piece{0, prefixLength, false});
+            start = prefixLength;
+        }
+        pieces.push_back(Piece{start, end, isShaped});
         start = end;
     } while (start < text.size());
     return pieces;
 }
 
-void RowLayouter::layOutWrapped(RowLayout& layout) const
+void RowLayouter::layOutWrapped(RowLayout& layout, qsizetype prefixLength) const
 {
     layout.lineCount = 0;
-    for (const RowFragment& piece : pieces(layout.text)) {
+    for (const Piece& piece : pieces(layout.text, prefixLength)) {
         if (piece.needsShaping) {
-            appendShapedLines(layout, piece);
-            continue;
-        }
-        const QStringView text =
-            QStringView(layout.text).sliced(piece.start, piece.end - piece.start);
-        std::vector<qsizetype> starts{0};
-        static_cast<void>(m_breaker.breakMixed(text, &starts));
-        starts.push_back(text.size());
-        for (std::size_t i = 0; i + 1 < starts.size(); ++i) {
-            layout.fragments.push_back(RowFragment{.start = piece.start + starts[i],
-                                                   .end = piece.start + starts[i + 1],
-                                                   .line = layout.lineCount++});
+            const qsizetype lead = piece.start == prefixLength ? leadBehindNumber(layout) : 0;
+            appendShapedLines(layout, ShapedPiece{piece.start, piece.end, lead});
+        } else {
+            appendLines(layout, piece);
         }
     }
 }
 
-void RowLayouter::appendShapedLines(RowLayout& layout, const RowFragment& piece) const
+// The tab stop on the number's line where the text begins; none where the tab reaches past the
+// width, so that the text begins on the next line.
+qsizetype RowLayouter::leadBehindNumber(const RowLayout& layout) const
 {
-    const auto shaped = makeLayout(layout.text.sliced(piece.start, piece.end - piece.start));
+    const RowFragment& number = layout.fragments.back();
+    const Fixed x = xOf(layout, number, number.end);
+    return x <= *m_lineWidth ? x / m_metrics.tabDistance() : 0;
+}
+
+void RowLayouter::appendLines(RowLayout& layout, const Piece& piece) const
+{
+    const QStringView text = QStringView(layout.text).sliced(piece.start, piece.end - piece.start);
+    std::vector<qsizetype> starts{0};
+    static_cast<void>(m_breaker.breakMixed(text, &starts));
+    starts.push_back(text.size());
+    for (std::size_t i = 0; i + 1 < starts.size(); ++i) {
+        layout.fragments.push_back(RowFragment{.start = piece.start + starts[i],
+                                               .end = piece.start + starts[i + 1],
+                                               .line = layout.lineCount++});
+    }
+}
+
+void RowLayouter::appendShapedLines(RowLayout& layout, const ShapedPiece& piece) const
+{
+    const auto shaped = m_shaper.layOut(layout.text, piece);
+    const qsizetype firstLine = layout.lineCount - (piece.lead > 0 ? 1 : 0);
     for (int i = 0; i < shaped->lineCount(); ++i) {
         const QTextLine line = shaped->lineAt(i);
-        layout.fragments.push_back(
-            RowFragment{.start = piece.start + line.textStart(),
-                        .end = piece.start + line.textStart() + line.textLength(),
-                        .line = layout.lineCount++,
-                        .needsShaping = true});
+        const qsizetype start = piece.start - piece.lead + line.textStart();
+        const RowFragment fragment{.start = std::max(start, piece.start),
+                                   .end = start + line.textLength(),
+                                   .line = firstLine + i,
+                                   .x = i == 0 ? piece.lead * m_metrics.tabDistance() : 0,
+                                   .piece = static_cast<int>(layout.pieces.size()),
+                                   .pieceLine = i};
+        // Beside the number there may be no room for the text's first word.
+        if (fragment.start < fragment.end) {
+            layout.fragments.push_back(fragment);
+        }
     }
+    layout.lineCount = firstLine + shaped->lineCount();
+    layout.pieces.push_back(piece);
 }
 
-void RowLayouter::layOutUnwrapped(RowLayout& layout) const
+void RowLayouter::layOutUnwrapped(RowLayout& layout, qsizetype prefixLength) const
 {
     Fixed x = 0;
-    for (const RowFragment& piece : pieces(layout.text)) {
+    for (const Piece& piece : pieces(layout.text, prefixLength)) {
+        if (piece.needsShaping) {
+            const qsizetype lead = piece.start == prefixLength ? x / m_metrics.tabDistance() : 0;
+            const RowFragment fragment{.start = piece.start,
+                                       .end = piece.end,
+                                       .x = x,
+                                       .piece = static_cast<int>(layout.pieces.size()),
+                                       .pieceLine = 0};
+            layout.fragments.push_back(fragment);
+            layout.pieces.push_back(ShapedPiece{piece.start, piece.end, lead});
+            x = xOf(layout, fragment, piece.end);
+            continue;
+        }
         qsizetype start = piece.start;
         do {
-            const qsizetype end =
-                piece.needsShaping ? piece.end : std::min(piece.end, start + kFragmentLength);
-            RowFragment fragment{
-                .start = start, .end = end, .x = x, .needsShaping = piece.needsShaping};
+            const qsizetype end = std::min(piece.end, start + kFragmentLength);
+            const RowFragment fragment{.start = start, .end = end, .x = x};
             layout.fragments.push_back(fragment);
             x = xOf(layout, fragment, end);
             start = end;
@@ -264,14 +302,22 @@ void RowLayouter::layOutUnwrapped(RowLayout& layout) const
     }
 }
 
+ShapedLine RowLayouter::shapedLine(const RowLayout& layout, const RowFragment& fragment) const
+{
+    const ShapedPiece& piece = layout.pieces[static_cast<std::size_t>(fragment.piece)];
+    return ShapedLine(m_shaper.layOut(layout.text, piece),
+                      ShapedLinePlace{.line = fragment.pieceLine,
+                                      .start = fragment.start,
+                                      .end = fragment.end,
+                                      .shift = piece.start - piece.lead,
+                                      .x = piece.lead > 0 ? 0 : fragment.x},
+                      m_metrics.columnAdvance());
+}
+
 Fixed RowLayouter::xOf(const RowLayout& layout, const RowFragment& fragment, qsizetype offset) const
 {
-    if (fragment.needsShaping) {
-        const auto shaped = shape(layout, fragment);
-        const QTextLine line = shaped->lineAt(0);
-        const int cursor = static_cast<int>(offset - fragment.start);
-        return fragment.x +
-               toFixed(offset == fragment.end ? line.naturalTextWidth() : line.cursorToX(cursor));
+    if (fragment.needsShaping()) {
+        return toFixed(shapedLine(layout, fragment).xOf(offset));
     }
     const QStringView before =
         QStringView(layout.text).sliced(fragment.start, offset - fragment.start);
@@ -280,9 +326,8 @@ Fixed RowLayouter::xOf(const RowLayout& layout, const RowFragment& fragment, qsi
 
 qsizetype RowLayouter::offsetAt(const RowLayout& layout, const RowFragment& fragment, Fixed x) const
 {
-    if (fragment.needsShaping) {
-        const auto shaped = shape(layout, fragment);
-        return fragment.start + shaped->lineAt(0).xToCursor(toPoints(x - fragment.x));
+    if (fragment.needsShaping()) {
+        return shapedLine(layout, fragment).offsetAt(toPoints(x));
     }
     Fixed left = fragment.x;
     for (qsizetype at = fragment.start; at < fragment.end; ++at) {
@@ -294,41 +339,6 @@ qsizetype RowLayouter::offsetAt(const RowLayout& layout, const RowFragment& frag
         left = right;
     }
     return fragment.end;
-}
-
-std::unique_ptr<QTextLayout> RowLayouter::shape(const RowLayout& layout,
-                                                const RowFragment& fragment) const
-{
-    auto shaped = std::make_unique<QTextLayout>(
-        layout.text.sliced(fragment.start, fragment.end - fragment.start),
-        m_metrics.font(FontWeight::Regular));
-    QTextOption option(Qt::AlignLeft);
-    option.setTextDirection(Qt::LeftToRight);
-    option.setTabStopDistance(toPoints(m_metrics.tabDistance()));
-    option.setWrapMode(QTextOption::NoWrap);
-    shaped->setTextOption(option);
-    shaped->setCacheEnabled(true);
-    shaped->beginLayout();
-    shaped->createLine();
-    shaped->endLayout();
-    return shaped;
-}
-
-// The row's number stands on the left whatever its text, so the paragraph runs left to right.
-std::unique_ptr<QTextLayout> RowLayouter::makeLayout(const QString& text) const
-{
-    auto layout = std::make_unique<QTextLayout>(text, m_metrics.font(FontWeight::Regular));
-    QTextOption option(Qt::AlignLeft);
-    option.setTextDirection(Qt::LeftToRight);
-    option.setTabStopDistance(toPoints(m_metrics.tabDistance()));
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout->setTextOption(option);
-    layout->beginLayout();
-    for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
-        line.setLineWidth(toPoints(*m_lineWidth));
-    }
-    layout->endLayout();
-    return layout;
 }
 
 } // namespace quillon

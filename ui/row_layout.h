@@ -4,17 +4,16 @@
 #include "ui/character_range.h"
 #include "ui/line_breaking.h"
 #include "ui/monospace_metrics.h"
+#include "ui/piece_shaper.h"
 #include "ui/row_measure.h"
+#include "ui/shaped_line.h"
 #include "ui/text_units.h"
 
 #include <QString>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
-
-class QTextLayout;
 
 namespace quillon {
 
@@ -28,21 +27,25 @@ struct RowExtent {
     Fixed width = 0;
 };
 
-// A stretch of a row that is drawn in one go: one visual line, or, where lines are not broken, a
-// part of the one line.
+// A stretch of a row that is drawn in one go: one visual line or a part of one.
 struct RowFragment {
     qsizetype start = 0; // UTF-16 units from the start of the row
     qsizetype end = 0;
     qsizetype line = 0; // visual line within the row
     Fixed x = 0;        // where the stretch begins in its line
-    // Whether its characters must go through a text layout to find their places.
-    bool needsShaping = false;
+    // Of a stretch whose characters have their places from a text layout: the piece of the row
+    // that was laid out, and the line of that layout. −1 where characters stand side by side.
+    int piece = -1;
+    int pieceLine = -1;
+
+    [[nodiscard]] bool needsShaping() const { return piece >= 0; }
 };
 
 // A row cut into fragments, in order.
 struct RowLayout {
     QString text; // as displayed, without the line feed
     std::vector<RowFragment> fragments;
+    std::vector<ShapedPiece> pieces; // those that need shaping
     qsizetype lineCount = 1;
 
     // The index of the fragment that holds the offset; at a place between two, the later one.
@@ -52,8 +55,10 @@ struct RowLayout {
 };
 
 // Lays out single rows, for one font and one width. Rows without unusual characters are laid out by
-// arithmetic, the others by QTextLayout, to the same lines. Of a very long row with unusual
-// characters, each piece of some thousand units is laid out for itself and begins a line.
+// arithmetic, the others by QTextLayout, to the same lines; the row's number is set by arithmetic
+// in any case, since beside some scripts a text layout takes its digits from a font that has none.
+// Of a very long row with unusual characters, each piece of some thousand units is laid out for
+// itself and begins a line.
 class RowLayouter {
 public:
     // `lineWidth`: what lines are broken at, none to keep each row on one line. The references
@@ -98,24 +103,32 @@ public:
     // The offset within the fragment whose place is nearest to `x`.
     [[nodiscard]] qsizetype offsetAt(const RowLayout& layout, const RowFragment& fragment,
                                      Fixed x) const;
-    // The fragment on one line of a text layout of its own, for drawing.
-    [[nodiscard]] std::unique_ptr<QTextLayout> shape(const RowLayout& layout,
-                                                     const RowFragment& fragment) const;
+    // The line that a fragment which needs shaping is, for drawing.
+    [[nodiscard]] ShapedLine shapedLine(const RowLayout& layout, const RowFragment& fragment) const;
 
 private:
-    void layOutWrapped(RowLayout& layout) const;
-    void layOutUnwrapped(RowLayout& layout) const;
-    void appendShapedLines(RowLayout& layout, const RowFragment& piece) const;
-    [[nodiscard]] std::vector<RowFragment> pieces(QStringView text) const;
+    // A part of a row that is laid out in one go.
+    struct Piece {
+        qsizetype start;
+        qsizetype end;
+        bool needsShaping;
+    };
+
+    void layOutWrapped(RowLayout& layout, qsizetype prefixLength) const;
+    void layOutUnwrapped(RowLayout& layout, qsizetype prefixLength) const;
+    void appendLines(RowLayout& layout, const Piece& piece) const;
+    void appendShapedLines(RowLayout& layout, const ShapedPiece& piece) const;
+    [[nodiscard]] qsizetype leadBehindNumber(const RowLayout& layout) const;
+    [[nodiscard]] std::vector<Piece> pieces(QStringView text, qsizetype prefixLength) const;
     [[nodiscard]] bool needsLayout(QStringView text) const;
     void foresee(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] RowExtent measureUniform(const AttributedRow& row, RowMeasure& measure) const;
-    [[nodiscard]] std::unique_ptr<QTextLayout> makeLayout(const QString& text) const;
 
     const MonospaceMetrics& m_metrics;
     const BreakOpportunities& m_opportunities;
     std::optional<Fixed> m_lineWidth;
     LineBreaker m_breaker;
+    PieceShaper m_shaper;
     mutable std::u16string m_buffer;
 };
 

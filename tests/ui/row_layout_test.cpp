@@ -218,7 +218,7 @@ TEST_F(RowLayoutTest, ALongRowWithOneEmojiIsShapedOnlyAroundIt)
         expectWholeRow(layout);
         qsizetype shaped = 0;
         for (const RowFragment& fragment : layout.fragments) {
-            shaped += fragment.needsShaping ? fragment.end - fragment.start : 0;
+            shaped += fragment.needsShaping() ? fragment.end - fragment.start : 0;
         }
         EXPECT_GT(shaped, 0);
         EXPECT_LE(shaped, 4096);
