@@ -16,6 +16,10 @@ constexpr qsizetype kLongRow = 65'536;
 // sent for meanwhile.
 constexpr int kPrefetchAhead = 8;
 
+// Texts without a row that is known before the known ones are given up: as many as keys are typed
+// into the search field, and taken back, without a row with such characters being found.
+constexpr int kMaximumForeignTexts = 32;
+
 } // namespace
 
 LogTextLayout::LogTextLayout() = default;
@@ -28,7 +32,12 @@ void LogTextLayout::layOut(const AttributedString& text,
     const bool sameLines = m_metrics == metrics && m_lineWidth == lineWidth;
     const bool sameRows = text.isExtensionOf(m_text);
     const qsizetype firstRow = sameLines && sameRows ? m_text.rows().size() : 0;
+    if (m_metrics != metrics) {
+        forgetFont();
+    }
     if (!sameRows) {
+        keepShapedRows();
+        m_mixedRows.clear();
         m_measures.clear();
         m_measures.reserve(static_cast<std::size_t>(text.rows().size()));
     }
@@ -36,22 +45,50 @@ void LogTextLayout::layOut(const AttributedString& text,
         m_metrics = std::move(metrics);
         m_lineWidth = lineWidth;
         m_layouter = std::make_unique<RowLayouter>(*m_metrics, m_opportunities, m_lineWidth);
-        m_shapedExtents.clear();
     }
     m_text = text;
-    if (firstRow > 0) {
-        measureRowsFrom(firstRow, ShapedExtents());
-        return;
+    if (firstRow == 0) {
+        m_cachedRows.clear();
+        m_width = 0;
     }
-    m_cachedRows.clear();
-    m_width = 0;
-    const ShapedExtents known = std::exchange(m_shapedExtents, ShapedExtents());
-    measureRowsFrom(0, known);
+    measureRowsFrom(firstRow);
+    if (!sameRows) {
+        dropForeignRows();
+    }
+}
+
+void LogTextLayout::forgetFont()
+{
+    m_knownRows.clear();
+    for (const std::size_t row : m_mixedRows) {
+        m_measures[row] = RowMeasure();
+    }
+}
+
+void LogTextLayout::keepShapedRows()
+{
+    for (const std::size_t index : m_mixedRows) {
+        if (m_measures[index].isShaped) {
+            const AttributedRow& row = m_text.rows()[static_cast<qsizetype>(index)];
+            m_knownRows.insert(row.text().constData(),
+                               KnownRow{row.text(), row.prefixLength(), m_measures[index]});
+        }
+    }
+}
+
+// What another log had need not be kept.
+void LogTextLayout::dropForeignRows()
+{
+    m_textsWithoutKnownRow = m_hasKnownRow ? 0 : m_textsWithoutKnownRow + 1;
+    m_hasKnownRow = false;
+    if (m_textsWithoutKnownRow > kMaximumForeignTexts) {
+        m_knownRows.clear();
+    }
 }
 
 // First what follows from what is known, then what must be looked at: those rows are known in
 // advance then, and their texts can be sent for.
-void LogTextLayout::measureRowsFrom(qsizetype firstRow, const ShapedExtents& known)
+void LogTextLayout::measureRowsFrom(qsizetype firstRow)
 {
     const auto& rows = m_text.rows();
     const auto count = static_cast<std::size_t>(rows.size());
@@ -74,11 +111,14 @@ void LogTextLayout::measureRowsFrom(qsizetype firstRow, const ShapedExtents& kno
         if (i + kPrefetchAhead < unknownRows.size()) {
             m_layouter->prefetch(rows[static_cast<qsizetype>(unknownRows[i + kPrefetchAhead])]);
         }
-        take(unknownRows[i], extentOf(unknownRows[i], known));
+        take(unknownRows[i], extentOf(unknownRows[i]));
     }
     for (std::size_t row = measured; row < count; ++row) {
-        m_measures.push_back(m_layouter->firstLook(rows[static_cast<qsizetype>(row)]));
-        take(row, extentOf(row, known));
+        m_measures.push_back(firstLook(rows[static_cast<qsizetype>(row)]));
+        if (m_measures.back().range == CharacterRange::Any) {
+            m_mixedRows.push_back(row);
+        }
+        take(row, extentOf(row));
     }
     quint32 lines = first == 0 ? 0 : m_lineEnds[first - 1];
     for (std::size_t row = first; row < count; ++row) {
@@ -87,7 +127,21 @@ void LogTextLayout::measureRowsFrom(qsizetype firstRow, const ShapedExtents& kno
     }
 }
 
-RowExtent LogTextLayout::extentOf(std::size_t index, const ShapedExtents& known)
+RowMeasure LogTextLayout::firstLook(const AttributedRow& row)
+{
+    RowMeasure measure = m_layouter->firstLook(row);
+    if (measure.range != CharacterRange::Any) {
+        return measure;
+    }
+    const auto known = m_knownRows.constFind(row.text().constData());
+    if (known == m_knownRows.constEnd() || known->prefixLength != row.prefixLength()) {
+        return measure;
+    }
+    m_hasKnownRow = true;
+    return known->measure;
+}
+
+RowExtent LogTextLayout::extentOf(std::size_t index)
 {
     const auto position = static_cast<qsizetype>(index);
     const AttributedRow& row = m_text.rows()[position];
@@ -96,17 +150,9 @@ RowExtent LogTextLayout::extentOf(std::size_t index, const ShapedExtents& known)
         const RowLayout& layout = rowLayout(position);
         return m_layouter->extentOf(layout);
     }
-    if (const auto extent = m_layouter->measure(row, m_measures[index])) {
-        return *extent;
-    }
-    const QChar* const key = row.text().constData();
-    const auto found = known.constFind(key);
-    const bool isKnown = found != known.constEnd() && found->prefixLength == row.prefixLength();
-    const ShapedExtent shaped =
-        isKnown ? *found
-                : ShapedExtent{row.text(), row.prefixLength(), m_layouter->measureShaped(row)};
-    m_shapedExtents.insert(key, shaped);
-    return shaped.extent;
+    RowMeasure& measure = m_measures[index];
+    const auto extent = m_layouter->measure(row, measure);
+    return extent ? *extent : m_layouter->measureShaped(row, measure);
 }
 
 qint64 LogTextLayout::lineCount() const

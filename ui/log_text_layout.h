@@ -37,7 +37,8 @@ struct VisualLine {
 // A text that extends the one before is laid out from its first new row on; after a change of the
 // line's width or the font only those rows are looked at again whose line count does not follow
 // from what is known of them; after any other change every row is, except that rows which need
-// shaping are remembered by their text.
+// shaping are remembered by their text. What is known of a row whose characters are of many widths
+// holds for one font only.
 class LogTextLayout {
 public:
     LogTextLayout();
@@ -70,21 +71,24 @@ public:
     [[nodiscard]] const std::vector<AttributeRun>& rowRuns(qsizetype row) const;
 
 private:
-    struct ShapedExtent {
+    struct KnownRow {
         QString text;           // kept so that its address stays its own
         qsizetype prefixLength; // the text begins farther right after a longer number
-        RowExtent extent;
+        RowMeasure measure;
     };
-    using ShapedExtents = QHash<const QChar*, ShapedExtent>;
     struct CachedRow {
         qsizetype row;
         RowLayout layout;
         std::optional<std::vector<AttributeRun>> runs;
     };
 
-    void measureRowsFrom(qsizetype firstRow, const ShapedExtents& known);
+    void forgetFont();
+    void keepShapedRows();
+    void dropForeignRows();
+    void measureRowsFrom(qsizetype firstRow);
+    [[nodiscard]] RowMeasure firstLook(const AttributedRow& row);
+    [[nodiscard]] RowExtent extentOf(std::size_t row);
     [[nodiscard]] CachedRow& cachedRow(qsizetype row) const;
-    [[nodiscard]] RowExtent extentOf(std::size_t row, const ShapedExtents& known);
 
     BreakOpportunities m_opportunities;
     AttributedString m_text;
@@ -95,8 +99,14 @@ private:
     std::vector<quint32> m_lineEnds;
     // For each row what has been found out about it, for as long as the text stays.
     std::vector<RowMeasure> m_measures;
+    // The rows of range Any, in order: what is known of them holds for one font.
+    std::vector<std::size_t> m_mixedRows;
     Fixed m_width = 0;
-    ShapedExtents m_shapedExtents;
+    // Rows of earlier texts that need shaping, by where their text stands in memory: a search
+    // leaves rows out and lets them in again.
+    QHash<const QChar*, KnownRow> m_knownRows;
+    bool m_hasKnownRow = false;     // in the text at hand
+    int m_textsWithoutKnownRow = 0; // one after the other
     // Most recently used first.
     mutable std::list<CachedRow> m_cachedRows;
 };

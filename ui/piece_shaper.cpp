@@ -21,7 +21,7 @@ constexpr qsizetype kMaximumKeptLength = 32'768;
 } // namespace
 
 PieceShaper::PieceShaper(const MonospaceMetrics& metrics, std::optional<Fixed> lineWidth)
-    : m_metrics(metrics), m_lineWidth(lineWidth)
+    : m_metrics(metrics), m_lineWidth(lineWidth), m_scratch(makeLayout())
 {
 }
 
@@ -37,7 +37,7 @@ std::shared_ptr<const QTextLayout> PieceShaper::layOut(const QString& row,
         m_entries.splice(m_entries.begin(), m_entries, found);
         return m_entries.front().layout;
     }
-    auto layout = std::make_shared<QTextLayout>();
+    const std::shared_ptr<QTextLayout> layout = makeLayout();
     layout->setCacheEnabled(true);
     fill(*layout, row, piece);
     keep(Entry{row, piece.start, piece.end - piece.start, layout});
@@ -55,18 +55,39 @@ void PieceShaper::keep(Entry entry) const
     }
 }
 
+ShapedMeasure PieceShaper::measure(const QString& row, const ShapedPiece& piece) const
+{
+    fill(*m_scratch, row, piece);
+    ShapedMeasure measure{.lineCount = m_scratch->lineCount(),
+                          .oneLine = toFixed(m_scratch->maximumWidth())};
+    for (int i = 0; i < measure.lineCount; ++i) {
+        const QTextLine line = m_scratch->lineAt(i);
+        const Fixed width = toFixed(line.naturalTextWidth());
+        measure.widestLine = std::max(measure.widestLine, width);
+        // What the ink of a line's last character adds to its width.
+        measure.oneLine -= width - toFixed(line.horizontalAdvance());
+    }
+    return measure;
+}
+
 // The row's number stands on the left whatever its text, so the paragraph runs left to right.
-void PieceShaper::fill(QTextLayout& layout, const QString& row, const ShapedPiece& piece) const
+std::unique_ptr<QTextLayout> PieceShaper::makeLayout() const
 {
     QTextOption option(Qt::AlignLeft);
     option.setTextDirection(Qt::LeftToRight);
     option.setTabStopDistance(toPoints(m_metrics.tabDistance()));
     option.setWrapMode(m_lineWidth ? QTextOption::WrapAtWordBoundaryOrAnywhere
                                    : QTextOption::NoWrap);
+    auto layout = std::make_unique<QTextLayout>();
+    layout->setFont(m_metrics.font(FontWeight::Regular));
+    layout->setTextOption(option);
+    return layout;
+}
+
+void PieceShaper::fill(QTextLayout& layout, const QString& row, const ShapedPiece& piece) const
+{
     QString text(piece.lead, u'\t');
     text += QStringView(row).sliced(piece.start, piece.end - piece.start);
-    layout.setFont(m_metrics.font(FontWeight::Regular));
-    layout.setTextOption(option);
     layout.setText(text);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {

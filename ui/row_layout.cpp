@@ -5,7 +5,6 @@
 #include "render/attributed_string.h"
 #include "ui/character_range.h"
 #include "ui/displayed_text.h"
-#include "ui/line_thresholds.h"
 #include "ui/monospace_metrics.h"
 
 #include <QTextLayout>
@@ -20,14 +19,12 @@ namespace {
 // Drawing and hit-testing walk a fragment from its start, so that of an unbroken line of two
 // million characters they must not have to walk it all.
 constexpr qsizetype kFragmentLength = 1024;
-// A text layout takes some hundred bytes a character; a row longer than this is laid out in pieces.
-constexpr qsizetype kPieceLength = 4096;
 // How far before the end of a piece a good place to cut is looked for.
 constexpr qsizetype kCutReach = 256;
 
 qsizetype pieceEnd(QStringView text, qsizetype start)
 {
-    const qsizetype limit = start + kPieceLength;
+    const qsizetype limit = start + RowLayouter::kPieceLength;
     if (limit >= text.size()) {
         return text.size();
     }
@@ -42,13 +39,6 @@ qsizetype pieceEnd(QStringView text, qsizetype start)
         }
     }
     return text[limit].isLowSurrogate() ? limit - 1 : limit;
-}
-
-// Columns before the row's text: its number and a tab.
-qsizetype indentOf(const AttributedRow& row)
-{
-    const qsizetype digits = row.prefixLength() - 1;
-    return (digits / MonospaceMetrics::kTabColumns + 1) * MonospaceMetrics::kTabColumns;
 }
 
 } // namespace
@@ -74,7 +64,9 @@ RowLayouter::RowLayouter(const MonospaceMetrics& metrics, const BreakOpportuniti
                          std::optional<Fixed> lineWidth)
     : m_metrics(metrics), m_opportunities(opportunities), m_lineWidth(lineWidth),
       m_breaker(metrics, opportunities, lineWidth.value_or(std::numeric_limits<Fixed>::max())),
-      m_shaper(metrics, lineWidth)
+      m_shaper(metrics, lineWidth),
+      m_isNotable(lineWidth ==
+                  m_breaker.columns() * metrics.columnAdvance() + metrics.columnAdvance() / 2)
 {
 }
 
@@ -93,89 +85,6 @@ bool RowLayouter::needsLayout(QStringView text) const
         }
         text = text.sliced(block.size());
     }
-}
-
-RowMeasure RowLayouter::firstLook(const AttributedRow& row) const
-{
-    const qsizetype columns = indentOf(row) + row.text().size();
-    constexpr qsizetype kMost = std::numeric_limits<quint32>::max();
-    RowMeasure measure{.columns = static_cast<quint32>(std::min(columns, kMost)),
-                       .range = characterRangeOf(row.text()),
-                       .lineCounts = {}};
-    if (m_lineWidth && m_metrics.isUniform(measure.range)) {
-        foresee(row, measure);
-    }
-    return measure;
-}
-
-// Notes on how narrow lines the row takes two or three, while its text is in the processor's cache:
-// to fetch it from memory again for the next width takes ten times as long. With 2 MiB, a change of
-// width takes 0.35 ms instead of 0.65 then, and the first layout 0.15 ms longer.
-void RowLayouter::foresee(const AttributedRow& row, RowMeasure& measure) const
-{
-    const QString& text = row.text();
-    const qsizetype columns = m_breaker.columns();
-    // Rows of more lines are few, and spaces at the end may hang, so that the row fits sooner.
-    if (measure.columns <= columns || measure.columns > 3 * columns || text.endsWith(u' ')) {
-        return;
-    }
-    const qsizetype indent = indentOf(row);
-    qsizetype two = columnsForTwoLines(text, indent, m_opportunities);
-    if (two > columns) {
-        two = fewestColumnsForTwoLines(text, indent, m_opportunities);
-        const qsizetype three = columnsForThreeLines(text, indent, m_opportunities);
-        measure.lineCounts.add(three, two - 1, 3);
-    }
-    measure.lineCounts.add(two, measure.columns - 1, 2);
-}
-
-std::optional<RowExtent> RowLayouter::measure(const AttributedRow& row, RowMeasure& measure) const
-{
-    if (const auto known = recall(measure)) {
-        return known;
-    }
-    const QString& text = row.text();
-    if (m_metrics.isUniform(measure.range) &&
-        indentOf(row) * m_metrics.columnAdvance() < *m_lineWidth) {
-        return measureUniform(row, measure);
-    }
-    if (needsLayout(text)) {
-        return std::nullopt;
-    }
-    // Control characters are measured as their pictures either way, so the row needs no copy of
-    // its own to be measured; the buffer is the same for all rows.
-    m_buffer.assign(QString::number(row.number()).toStdU16String());
-    m_buffer += u'\t';
-    m_buffer.append(reinterpret_cast<const char16_t*>(text.utf16()),
-                    static_cast<std::size_t>(text.size()));
-    return m_lineWidth ? RowExtent{m_breaker.breakMixed(m_buffer, nullptr), 0}
-                       : RowExtent{1, widthOf(m_buffer, 0, m_metrics)};
-}
-
-RowExtent RowLayouter::measureUniform(const AttributedRow& row, RowMeasure& measure) const
-{
-    const qsizetype indent = indentOf(row);
-    const BrokenLines lines =
-        m_breaker.breakUniform(row.text(), indent * m_metrics.columnAdvance(), nullptr);
-    // A row that takes two lines takes two until it fits on one. (Spaces at its end may hang, so
-    // that it fits sooner.)
-    const bool staysTwo = lines.count == 2 && !row.text().endsWith(u' ');
-    measure.lineCounts.add(std::max(lines.columns, indent + 1),
-                           staysTwo ? measure.columns - 1 : m_breaker.columns(), lines.count);
-    return RowExtent{lines.count, 0};
-}
-
-void RowLayouter::prefetch(const AttributedRow& row) const
-{
-    const qsizetype end = m_breaker.columns() - MonospaceMetrics::kTabColumns;
-    if (row.text().size() > end) {
-        __builtin_prefetch(row.text().constData() + std::max<qsizetype>(0, end));
-    }
-}
-
-RowExtent RowLayouter::measureShaped(const AttributedRow& row) const
-{
-    return extentOf(layOut(row));
 }
 
 RowExtent RowLayouter::extentOf(const RowLayout& layout) const

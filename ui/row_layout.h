@@ -61,24 +61,27 @@ struct RowLayout {
 // itself and begins a line.
 class RowLayouter {
 public:
+    // A text layout takes some hundred bytes a character; a row of more UTF-16 units than this is
+    // laid out in pieces.
+    static constexpr qsizetype kPieceLength = 4096;
+
     // `lineWidth`: what lines are broken at, none to keep each row on one line. The references
     // must outlive the layouter.
     RowLayouter(const MonospaceMetrics& metrics, const BreakOpportunities& opportunities,
                 std::optional<Fixed> lineWidth);
 
-    // What there is to know of a row before it is measured for the first time. Holds for all
-    // layouters. Reads the whole row.
+    // What there is to know of a row before it is measured for the first time. Reads the whole row.
     [[nodiscard]] RowMeasure firstLook(const AttributedRow& row) const;
     // The extent of a row as far as it follows from its measure, without a look at the row.
     [[nodiscard]] std::optional<RowExtent> recall(const RowMeasure& measure) const
     {
         if (!m_metrics.isUniform(measure.range)) {
-            return std::nullopt;
+            return recallMixed(measure);
         }
         if (!m_lineWidth) {
-            return RowExtent{1, measure.columns * m_metrics.columnAdvance()};
+            return RowExtent{1, measure.width * m_metrics.columnAdvance()};
         }
-        if (measure.columns <= m_breaker.columns()) {
+        if (measure.width <= m_breaker.columns()) {
             return RowExtent{1, 0};
         }
         const std::optional<qsizetype> lines = measure.lineCounts.at(m_breaker.columns());
@@ -91,9 +94,9 @@ public:
     // Tells the processor to fetch what measuring the row will look at: the place where its first
     // line ends, if it has more than one.
     void prefetch(const AttributedRow& row) const;
-    // The extent of a row with such characters: takes a text layout, which is slow enough to be
-    // worth remembering.
-    [[nodiscard]] RowExtent measureShaped(const AttributedRow& row) const;
+    // The extent of a row with such characters, which takes a text layout: a hundred times as long
+    // as arithmetic. Notes in `measure` too.
+    [[nodiscard]] RowExtent measureShaped(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] RowExtent extentOf(const RowLayout& layout) const;
     [[nodiscard]] RowLayout layOut(const AttributedRow& row) const;
 
@@ -122,6 +125,18 @@ private:
     [[nodiscard]] std::vector<Piece> pieces(QStringView text, qsizetype prefixLength) const;
     [[nodiscard]] bool needsLayout(QStringView text) const;
     void foresee(const AttributedRow& row, RowMeasure& measure) const;
+    [[nodiscard]] std::optional<RowExtent> recallMixed(const RowMeasure& measure) const;
+    [[nodiscard]] RowExtent measureMixed(const AttributedRow& row, RowMeasure& measure) const;
+    // What a text layout found out about a row that is measured for the first time at this width.
+    struct MixedLines {
+        qsizetype count;
+        // Widths in columns at which the row takes as many, besides that of the layouter.
+        qsizetype from;
+        qsizetype to;
+    };
+    [[nodiscard]] MixedLines linesOf(const QString& text, const ShapedMeasure& shaped) const;
+    void note(const AttributedRow& row, const MixedLines& lines, RowMeasure& measure) const;
+    [[nodiscard]] RowExtent measureInPieces(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] RowExtent measureUniform(const AttributedRow& row, RowMeasure& measure) const;
 
     const MonospaceMetrics& m_metrics;
@@ -129,6 +144,9 @@ private:
     std::optional<Fixed> m_lineWidth;
     LineBreaker m_breaker;
     PieceShaper m_shaper;
+    // Whether the line's width is one of those that are noted for rows measured in fractions of a
+    // column: whole columns and half a one.
+    bool m_isNotable;
     mutable std::u16string m_buffer;
 };
 

@@ -8,7 +8,6 @@ namespace quillon {
 
 void KnownLineCounts::add(qsizetype from, qsizetype to, qsizetype lines)
 {
-    constexpr qsizetype kWidest = std::numeric_limits<quint16>::max();
     if (from > std::min(to, kWidest) || lines > std::numeric_limits<qint32>::max()) {
         return;
     }

@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <limits>
 #include <optional>
 
 namespace quillon {
@@ -32,6 +33,8 @@ public:
     // there is no such width.
     void add(qsizetype from, qsizetype to, qsizetype lines);
 
+    static constexpr qsizetype kWidest = std::numeric_limits<quint16>::max();
+
 private:
     struct Span {
         quint16 from = 1; // columns; an empty range knows nothing
@@ -42,12 +45,16 @@ private:
     std::array<Span, 2> m_spans; // latest first
 };
 
-// What is kept of a row so that its extent need not be asked from its text again.
+// What is kept of a row so that its extent need not be asked from its text again. Of a row of range
+// Any it holds for one font, since its characters are of many widths.
 struct RowMeasure {
-    // What the row would take on one line, the room of its number included, were all its characters
-    // of one width. A number beyond 32 bits is cut off to their largest.
-    quint32 columns = 0;
+    // What the row would take on one line, the room of its number included: in columns, as if all
+    // its characters were of one width; of a row of range Any in 1/64 of a point, 0 where it is not
+    // known. What is beyond 32 bits is cut off to their largest.
+    quint32 width = 0;
     CharacterRange range = CharacterRange::Any;
+    // Whether it takes a text layout to look at the row again; known once one has been made.
+    bool isShaped = false;
     KnownLineCounts lineCounts;
 };
 

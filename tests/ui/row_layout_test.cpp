@@ -31,7 +31,7 @@ protected:
     {
         RowMeasure measure = layouter.firstLook(row);
         const auto extent = layouter.measure(row, measure);
-        return extent ? *extent : layouter.measureShaped(row);
+        return extent ? *extent : layouter.measureShaped(row, measure);
     }
 
     // Fragments must cover the row in order, without gaps, and number its lines one by one.
