@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <cstdlib>
 
 namespace {
 
@@ -153,6 +154,53 @@ void layOut(benchmark::State& state)
     }
 }
 BENCHMARK(layOut)->Unit(benchmark::kMicrosecond);
+
+// The usual log with a phrase at the end of every line that needs shaping.
+QByteArray logWithPhrase(const char* phrase)
+{
+    QByteArray bytes;
+    const QList<QByteArray> lines = log().split('\n');
+    for (const QByteArray& line : lines) {
+        bytes += line + ' ' + phrase + '\n';
+    }
+    return bytes.left(kLogBytes);
+}
+
+// Right to left and joining; accents of their own, as in file names from macOS; an emoji.
+constexpr const char* kArabic = "خطأ في قاعدة البيانات";
+constexpr const char* kAccent = "de\u0301ja\u0300 vu";
+constexpr const char* kEmoji = "\U0001F642 ok";
+
+void openShaped(benchmark::State& state, const char* phrase)
+{
+    const AttributedString text = Styled(logWithPhrase(phrase)).text();
+    const auto metrics = usualMetrics();
+    const Fixed column = metrics->columnAdvance();
+    for (auto _ : state) {
+        LogTextLayout layout;
+        layout.layOut(text, metrics, 120 * column + column / 2);
+    }
+}
+BENCHMARK_CAPTURE(openShaped, Arabic, kArabic)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openShaped, accent, kAccent)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openShaped, emoji, kEmoji)->Unit(benchmark::kMillisecond);
+
+// A window's edge dragged to and fro, a column at a time: one step of it.
+void dragShaped(benchmark::State& state, const char* phrase)
+{
+    const AttributedString text = Styled(logWithPhrase(phrase)).text();
+    const auto metrics = usualMetrics();
+    const Fixed column = metrics->columnAdvance();
+    LogTextLayout layout;
+    int step = 0;
+    for (auto _ : state) {
+        const int columns = 100 + std::abs(step++ % 40 - 20);
+        layout.layOut(text, metrics, columns * column + column / 2);
+    }
+}
+BENCHMARK_CAPTURE(dragShaped, Arabic, kArabic)->Unit(benchmark::kMillisecond)->Iterations(80);
+BENCHMARK_CAPTURE(dragShaped, accent, kAccent)->Unit(benchmark::kMillisecond)->Iterations(80);
+BENCHMARK_CAPTURE(dragShaped, emoji, kEmoji)->Unit(benchmark::kMillisecond)->Iterations(80);
 
 void resizeView(benchmark::State& state)
 {
