@@ -65,8 +65,8 @@ RowLayouter::RowLayouter(const MonospaceMetrics& metrics, const BreakOpportuniti
     : m_metrics(metrics), m_opportunities(opportunities), m_lineWidth(lineWidth),
       m_breaker(metrics, opportunities, lineWidth.value_or(std::numeric_limits<Fixed>::max())),
       m_shaper(metrics, lineWidth),
-      m_isNotable(lineWidth ==
-                  m_breaker.columns() * metrics.columnAdvance() + metrics.columnAdvance() / 2)
+      m_isNotable(lineWidth.has_value() &&
+                  *lineWidth % metrics.columnAdvance() == metrics.columnAdvance() / 2)
 {
 }
 
