@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/terminal_row.h"
 #include "render/styled_line.h"
+#include "tests/support/distinct_colors.h"
 #include "tests/support/log_lines.h"
 #include "tests/support/printing.h"
 #include "tests/support/random_text.h"
@@ -11,17 +12,6 @@
 
 namespace quillon {
 namespace {
-
-HighlightColors distinctColors()
-{
-    const auto shade = [](int i) {
-        return Color::rgb(0.1 * i, 0.2, 0.3);
-    };
-    return HighlightColors{.severity = {shade(0), shade(1), shade(2), shade(3), shade(4), shade(5),
-                                        shade(6), Color::system(SystemColor::Text)},
-                           .date = shade(8),
-                           .arrayDump = shade(9)};
-}
 
 AttributedRow styledRow(const QString& text, const QString& query,
                         const HighlightColors& colors = distinctColors())
