@@ -16,10 +16,11 @@ public:
     // The engine reports in once per this many steps.
     static constexpr int kStepsPerReport = 10'000;
 
-    // For all searches in a pass over a log: two or three seconds of backtracking.
+    // For all searches in a pass over a log: one to three seconds of backtracking.
     static MatchingBudget forPass();
-    // For all matches in one text of so many UTF-16 units: a quarter of a second at most. Fixed by
-    // the text alone, so that the same is found however often and in whatever order texts come.
+    // For all matches in one text of so many UTF-16 units: a quarter of a second at most. Its
+    // steps are fixed by the text alone, so that the same is found however often and in whatever
+    // order texts come.
     static MatchingBudget forText(qsizetype length);
 
     // A search in a text of so many UTF-16 units begins; what went before it is not counted.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/regular_expression.h"
 
-#include "platform/leading_wildcard.h"
 #include "platform/matching_budget.h"
 
 #include <unicode/uregex.h>
@@ -12,18 +11,10 @@ namespace {
 
 constexpr int32_t kMaximumStackBytes = 8 * 1024 * 1024;
 
-// In UTF-16 units; 1 at the text's end too.
-qsizetype characterLength(QStringView text, qsizetype at)
-{
-    return at + 1 < text.size() && text[at].isHighSurrogate() && text[at + 1].isLowSurrogate() ? 2
-                                                                                               : 1;
-}
-
 } // namespace
 
 struct RegularExpression::Engine {
     URegularExpression* handle = nullptr;
-    bool hasWildcard = false;
     MatchingBudget passBudget = MatchingBudget::forPass();
     // The budget of the search that is going on.
     MatchingBudget* budget = nullptr;
@@ -60,7 +51,6 @@ struct RegularExpression::Engine {
         const auto* units = reinterpret_cast<const char16_t*>(pattern.utf16());
         handle = uregex_open(pattern.isEmpty() ? u"" : units, static_cast<int32_t>(pattern.size()),
                              flags, &where, &status);
-        hasWildcard = hasLeadingWildcard(pattern);
         return U_SUCCESS(status);
     }
 
@@ -81,19 +71,10 @@ struct RegularExpression::Engine {
         budget->beginSearch(text.size());
     }
 
-    // The next match: at or behind `from`, which is where the one before it has ended.
-    std::optional<TextRange> findNext(QStringView text, qsizetype from, UErrorCode& status) const
+    // The next match; none, and a failure in `status`, where that costs too much.
+    std::optional<TextRange> findNext(UErrorCode& status) const
     {
-        if (!hasWildcard) {
-            return uregex_findNext(handle, &status) ? std::optional(match()) : std::nullopt;
-        }
-        while (from <= text.size() && U_SUCCESS(status)) {
-            if (uregex_lookingAt(handle, static_cast<int32_t>(from), &status)) {
-                return match();
-            }
-            from = nextWildcardStart(text, from);
-        }
-        return std::nullopt;
+        return uregex_findNext(handle, &status) ? std::optional(match()) : std::nullopt;
     }
 
     [[nodiscard]] TextRange match() const
@@ -132,7 +113,7 @@ std::optional<TextRange> RegularExpression::firstMatch(QStringView text) const
     }
     m_engine->begin(text, m_engine->passBudget);
     UErrorCode status = U_ZERO_ERROR;
-    const auto match = m_engine->findNext(text, 0, status);
+    const auto match = m_engine->findNext(status);
     m_engine->exhausted = U_FAILURE(status);
     return m_engine->exhausted ? std::nullopt : match;
 }
@@ -148,13 +129,8 @@ std::vector<TextRange> RegularExpression::allMatches(QStringView text) const
     MatchingBudget textBudget = MatchingBudget::forText(text.size());
     m_engine->begin(text, textBudget);
     UErrorCode status = U_ZERO_ERROR;
-    qsizetype from = 0;
-    while (const auto match = m_engine->findNext(text, from, status)) {
+    while (const auto match = m_engine->findNext(status)) {
         matches.push_back(*match);
-        from = match->end();
-        if (match->length == 0) {
-            from += characterLength(text, from);
-        }
     }
     return matches;
 }

@@ -2,6 +2,7 @@
 #include "render/search_expression.h"
 
 #include "render/case_folding.h"
+#include "render/leading_wildcard.h"
 #include "render/required_word.h"
 
 #include <algorithm>
@@ -70,6 +71,9 @@ SearchExpression::SearchExpression(const QString& query,
     : m_lowerCasedQuery(query.toLower()), m_expression(std::move(expression))
 {
     const QString pattern = m_expression ? patternOf(query) : QString();
+    if (const QString shorter = withoutLeadingWildcards(pattern); shorter != pattern) {
+        m_filter = RegularExpression::compile(shorter, CaseSensitivity::Insensitive);
+    }
     if (isPlainWord(pattern)) {
         m_plainWord.emplace(QLatin1StringView(pattern.toLatin1()));
     } else if (const QString word = requiredWordOf(pattern); !word.isEmpty()) {
@@ -106,7 +110,7 @@ bool SearchExpression::matches(const QString& text) const
         }
     }
     if (m_expression) {
-        return m_expression->hasMatch(text);
+        return filter().hasMatch(text);
     }
     return text.toLower().contains(m_lowerCasedQuery);
 }

@@ -115,8 +115,8 @@ TEST_F(RecomputeSearch, WildcardsMayStandBeforeAnExpressionInALongLog)
     QStringList texts(20'000, QStringLiteral("[05-Mar-2024 10:15:42 UTC] PHP Warning:  Undefined "
                                              "variable $x in /srv/wp-content/a.php on line 17"));
     texts[7'000] = QStringLiteral("fatal in /srv/cart.php, by array");
-    for (const char16_t* query :
-         {u".*cart\\.php", u".*(cart|hook)\\.php", u"(.*)fatal(.*)", u"(?=.*fatal)(?=.*array)"}) {
+    for (const char16_t* query : {u".*cart\\.php", u".*(cart|hook)\\.php", u".*cart|checkout",
+                                  u"(.*)fatal(.*)", u"(?=.*fatal)(?=.*array)"}) {
         EXPECT_EQ(found(QString::fromUtf16(query), texts), QStringList{texts[7'000]});
     }
 }
