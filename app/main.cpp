@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line.h"
+#include "app/command_line/command_line.h"
+#include "app/command_line/exit_codes.h"
+#include "app/command_line/help_text.h"
 #include "app/open_window.h"
-#include "app/print_mode.h"
+#include "app/print/print_mode.h"
+#include "platform/file_path.h"
 
 #include <QStringList>
 
@@ -9,15 +12,11 @@
 
 namespace {
 
-constexpr int kExitSuccess = 0;
-constexpr int kExitFailure = 1;
-constexpr int kExitUsage = 2;
-
 QStringList argumentsAfterName(int argc, char** argv)
 {
     QStringList arguments;
     for (int i = 1; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(quillon::pathFromBytes(argv[i]));
     }
     return arguments;
 }
@@ -27,14 +26,13 @@ int say(const QString& text)
     const QByteArray bytes = text.toUtf8();
     const auto size = static_cast<std::size_t>(bytes.size());
     const bool isWritten = std::fwrite(bytes.constData(), 1, size, stdout) == size;
-    return isWritten && std::fflush(stdout) == 0 ? kExitSuccess : kExitFailure;
+    return isWritten && std::fflush(stdout) == 0 ? quillon::kExitSuccess : quillon::kExitFailure;
 }
 
 int complain(const quillon::UsageError& error)
 {
-    const QString text = QStringLiteral("quillon: %1\n%2").arg(error.message, quillon::usageText());
-    std::fputs(text.toUtf8().constData(), stderr);
-    return kExitUsage;
+    std::fputs(quillon::complaintText(error).toUtf8().constData(), stderr);
+    return quillon::kExitUsage;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // For platforms whose applications are one executable in a bundle.
+#include "app/desktop/run_application.h"
 #include "app/open_window.h"
-#include "app/run_application.h"
 
 namespace quillon {
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The windowing libraries are some forty, and linking them takes 7 ms, which is a fifth of what
 // printing a log of 2 MiB takes in all. So they come with a module that only a window needs.
+#include "app/command_line/exit_codes.h"
+#include "app/command_line/no_window_text.h"
 #include "app/open_window.h"
 #include "app/window_module.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,8 +17,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr int kExitFailure = 1;
 
 // Beside the program, as it is built, or else where it is installed to.
 QByteArray modulePath()
@@ -28,6 +29,16 @@ QByteArray modulePath()
                                                  : QDir::cleanPath(installed.filePath(name)));
 }
 
+// Print mode comes without the module where only the one is installed.
+QString whyNoModule()
+{
+    const QString detail = QString::fromLocal8Bit(::dlerror());
+    return QFile::exists(QFile::decodeName(modulePath()))
+               ? QCoreApplication::translate("OpenWindow", "la fenêtre ne se charge pas (%1)")
+                     .arg(detail)
+               : QCoreApplication::translate("OpenWindow", "la fenêtre n’est pas installée");
+}
+
 } // namespace
 
 int openWindow(int& argc, char** argv, const CommandLine& commandLine)
@@ -37,7 +48,7 @@ int openWindow(int& argc, char** argv, const CommandLine& commandLine)
     void* const module = ::dlopen(modulePath().constData(), RTLD_NOW | RTLD_LOCAL);
     void* const entry = module != nullptr ? ::dlsym(module, kWindowModuleEntry) : nullptr;
     if (entry == nullptr) {
-        std::fprintf(stderr, "quillon: impossible de charger la fenêtre: %s\n", ::dlerror());
+        std::fputs(noWindowText(whyNoModule()).toUtf8().constData(), stderr);
         return kExitFailure;
     }
     return reinterpret_cast<WindowModuleEntry*>(entry)(argc, argv, commandLine);

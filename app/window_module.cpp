@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/window_module.h"
 
-#include "app/run_application.h"
+#include "app/desktop/run_application.h"
 
 // The name is the one that the header gives.
 extern "C" __attribute__((visibility("default"))) quillon::WindowModuleEntry quillonRunApplication;

@@ -6,7 +6,7 @@
 #include "model/log_view_model.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
-#include "ui/log_text_view.h"
+#include "ui/log_text/log_text_view.h"
 
 #include <QApplication>
 #include <QEventLoop>

@@ -46,9 +46,34 @@ constexpr std::array kChinese{
     "用户登录失败，密码错误次数过多，账户已被暂时锁定，请联系管理员处理"sv,
 };
 
+// Each of the words of logs in that script, as a shop or an agenda might have them.
+constexpr std::array kPhrases{
+    std::array{" order saved"sv, " wrong password, try again"sv, " cache emptied"sv,
+               " no connection to the server"sv, " import done"sv, " mail sent to the buyer"sv,
+               " database error"sv, " file not found"sv},
+    std::array{" 🛒 order saved"sv, " 🔒 wrong password 🙁"sv, " 🧹 cache emptied"sv,
+               " no connection 🔌 to the server"sv, " import ✅ done"sv,
+               " 📧 mail sent to the buyer 👩‍💻"sv, " ❌ database error"sv,
+               " 🔍 file not found"sv},
+    std::array{" commande enregistre\u0301e"sv, " mot de passe refuse\u0301, re\u0301essayez"sv,
+               " cache vide\u0301"sv, " connexion interrompue a\u0300 nouveau"sv,
+               " import acheve\u0301"sv, " lettre envoye\u0301e a\u0300 l’acheteur"sv,
+               " base de donne\u0301es indisponible"sv, " fichier supprime\u0301"sv},
+    std::array{" تم حفظ الطلب"sv, " كلمة المرور خاطئة، حاول مجددا"sv, " تم إفراغ الذاكرة المؤقتة"sv,
+               " لا يوجد اتصال بالخادم"sv, " اكتمل الاستيراد"sv, " أرسلت الرسالة إلى المشتري"sv,
+               " خطأ في قاعدة البيانات"sv, " الملف غير موجود"sv},
+    std::array{" आदेश सहेजा गया"sv, " गलत पासवर्ड, फिर प्रयास करें"sv, " कैश खाली किया गया"sv,
+               " सर्वर से संपर्क नहीं हुआ"sv, " आयात पूरा हुआ"sv, " ग्राहक को पत्र भेजा गया"sv,
+               " डेटाबेस में त्रुटि"sv, " फ़ाइल नहीं मिली"sv},
+};
+
 class LogWriter {
 public:
     explicit LogWriter(Prose prose) : m_prose(prose) {}
+    explicit LogWriter(Phrase phrase)
+        : m_prose(Prose::WordPress), m_phrases(&kPhrases[static_cast<std::size_t>(phrase)])
+    {
+    }
 
     void writeEntry()
     {
@@ -135,6 +160,9 @@ private:
     void writeRaw(std::string_view text)
     {
         append(text);
+        if (m_phrases != nullptr) {
+            append((*m_phrases)[static_cast<std::size_t>(m_lines) % m_phrases->size()]);
+        }
         m_text.append('\n');
         ++m_lines;
     }
@@ -155,23 +183,33 @@ private:
     }
 
     Prose m_prose;
+    const std::array<std::string_view, 8>* m_phrases = nullptr;
     std::mt19937 m_random{20261012};
     unsigned m_second = 27'731;
     QByteArray m_text;
     qsizetype m_lines = 0;
 };
 
-} // namespace
-
-QByteArray generatedLog(qsizetype bytes, Prose prose)
+QByteArray writtenLog(qsizetype bytes, LogWriter writer)
 {
-    LogWriter writer(prose);
     while (writer.text().size() < bytes) {
         writer.writeEntry();
     }
     const QByteArray& text = writer.text();
     // Whole lines only.
     return text.first(text.lastIndexOf('\n', bytes - 1) + 1);
+}
+
+} // namespace
+
+QByteArray generatedLog(qsizetype bytes, Prose prose)
+{
+    return writtenLog(bytes, LogWriter(prose));
+}
+
+QByteArray generatedLogWithPhrases(qsizetype bytes, Phrase phrase)
+{
+    return writtenLog(bytes, LogWriter(phrase));
 }
 
 QByteArray generatedLines(qsizetype count)

@@ -14,6 +14,12 @@ enum class Prose { WordPress, French, Chinese };
 // language after its timestamp, as many lines to the byte.
 QByteArray generatedLog(qsizetype bytes, Prose prose = Prose::WordPress);
 
+// What a phrase at the end of each line is made of.
+enum class Phrase { Ascii, Emoji, Accent, Arabic, Devanagari };
+
+// A log of the WordPress kind with one of eight phrases at the end of each line.
+QByteArray generatedLogWithPhrases(qsizetype bytes, Phrase phrase);
+
 // As many lines as given, of the WordPress kind.
 QByteArray generatedLines(qsizetype count);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Prints how long the program takes for what users wait for, as ratios to references timed in the
-// same run. Arguments: any of "model", "view", "process"; all of them without any.
+// same run. Arguments: any of "model", "view", "process", "pipe"; all of them without any.
 #include "bench/ratio_table.h"
 
 #include <QApplication>
@@ -26,6 +26,9 @@ int main(int argc, char** argv)
     }
     if (isWanted("process")) {
         runProcessRatios(table);
+    }
+    if (isWanted("pipe")) {
+        runPipeRatios(table);
     }
     std::printf("goals missed: %d\n", table.missedGoals());
     return 0;

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Single steps on the road of a byte, for finding out where time goes.
 #include "bench/generated_log.h"
-#include "model/classify.h"
-#include "model/decode_text.h"
-#include "model/line_builder.h"
-#include "model/line_enumeration.h"
 #include "model/log_recompute.h"
+#include "model/records/classify.h"
+#include "model/records/decode_text.h"
+#include "model/records/line_builder.h"
+#include "model/records/line_enumeration.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
-#include "ui/log_text_layout.h"
-#include "ui/log_text_view.h"
-#include "ui/theme.h"
+#include "ui/layout/log_text_layout.h"
+#include "ui/log_text/log_text_view.h"
+#include "ui/theme/theme.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -82,7 +82,7 @@ struct Styled {
     AttributedString text(const QString& query = QString()) const
     {
         DisplayOptions options;
-        options.query = query;
+        options.filter.search = SearchExpression::make(query);
         return rebuildDisplay(lines, options, defaults).output;
     }
 };

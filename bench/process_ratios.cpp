@@ -10,8 +10,10 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace quillon::bench {
@@ -81,11 +83,11 @@ Start startWindow(const QString& program, const QStringList& arguments)
                  report.value(1).toDouble()};
 }
 
-QString writeLog(const QTemporaryDir& folder)
+QString writeLog(const QTemporaryDir& folder, const QByteArray& log, const char* name = "debug.log")
 {
-    QFile file(folder.filePath(QStringLiteral("debug.log")));
+    QFile file(folder.filePath(QLatin1StringView(name)));
     static_cast<void>(file.open(QIODevice::WriteOnly));
-    file.write(generatedLog(kLogBytes));
+    file.write(log);
     return file.fileName();
 }
 
@@ -116,6 +118,28 @@ void compareStart(RatioTable& table, const QString& path)
     std::nth_element(differences.begin(), differences.begin() + 4, differences.end());
     table.addQuantity(QStringLiteral("memory with 2 MiB shown, beyond a bare window"),
                       differences[4] / static_cast<double>(kLogBytes), QStringLiteral("B/B"), 12);
+}
+
+void compareStartsInScripts(RatioTable& table, const QTemporaryDir& folder)
+{
+    const auto start = [](const QString& path) {
+        return startWindow(beside("quillon_window_probe"), {path}).milliseconds;
+    };
+    const auto write = [&](Phrase phrase, const char* name) {
+        return writeLog(folder, generatedLogWithPhrases(kLogBytes, phrase), name);
+    };
+    const QString ascii = write(Phrase::Ascii, "ascii.log");
+    const std::array<std::pair<Phrase, const char*>, 4> phrases{
+        {{Phrase::Emoji, "emoji"},
+         {Phrase::Accent, "combining accents"},
+         {Phrase::Arabic, "Arabic"},
+         {Phrase::Devanagari, "Devanagari"}}};
+    for (const auto& [phrase, name] : phrases) {
+        const QString path = write(phrase, "phrases.log");
+        table.add(
+            QStringLiteral("cold start, %1 in each line | ASCII").arg(QLatin1StringView(name)),
+            comparePairs([&] { return start(path); }, [&] { return start(ascii); }, 15), 1.6);
+    }
 }
 
 void compareFollowing(RatioTable& table)
@@ -155,8 +179,9 @@ void comparePrinting(RatioTable& table, const QString& path)
 void runProcessRatios(RatioTable& table)
 {
     const QTemporaryDir folder;
-    const QString path = writeLog(folder);
+    const QString path = writeLog(folder, generatedLog(kLogBytes));
     compareStart(table, path);
+    compareStartsInScripts(table, folder);
     compareFollowing(table);
     comparePrinting(table, path);
 }

@@ -36,5 +36,6 @@ private:
 void runModelRatios(RatioTable& table);
 void runViewRatios(RatioTable& table);
 void runProcessRatios(RatioTable& table);
+void runPipeRatios(RatioTable& table);
 
 } // namespace quillon::bench

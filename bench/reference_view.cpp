@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/reference_view.h"
 
-#include "ui/theme.h"
+#include "ui/theme/theme.h"
 
 #include <QScrollBar>
 #include <QTextBlock>

@@ -2,12 +2,12 @@
 #include "bench/generated_log.h"
 #include "bench/ratio_table.h"
 #include "bench/reference_view.h"
-#include "model/line_builder.h"
 #include "model/log_recompute.h"
 #include "model/log_view_model.h"
+#include "model/records/line_builder.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
-#include "ui/log_text_view.h"
+#include "ui/log_text/log_text_view.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -15,7 +15,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 
-#include <memory>
+#include <array>
 
 namespace quillon::bench {
 
@@ -68,7 +68,7 @@ struct Model {
     AttributedString styled(const LogLines& lines, const QString& query = QString()) const
     {
         DisplayOptions options;
-        options.query = query;
+        options.filter.search = SearchExpression::make(query);
         return rebuildDisplay(lines, options, defaults).output;
     }
 };
@@ -190,6 +190,61 @@ void compareTailBatches(RatioTable& table)
         1.1);
 }
 
+struct PhraseRow {
+    Phrase phrase;
+    const char* name;
+};
+
+constexpr std::array kPhraseRows{
+    PhraseRow{Phrase::Emoji, "emoji"}, PhraseRow{Phrase::Accent, "combining accents"},
+    PhraseRow{Phrase::Arabic, "Arabic"}, PhraseRow{Phrase::Devanagari, "Devanagari"}};
+
+QString rowName(const char* work, const char* phrase)
+{
+    return QLatin1StringView(work) + QStringLiteral(", ") + QLatin1StringView(phrase) +
+           QStringLiteral(" in each line | ASCII");
+}
+
+// A first change of the text size, or of the width, and what it shows.
+double resizeTime(OwnView& view, const AttributedString& text, bool isOfText)
+{
+    view.resize(kViewSize.width());
+    view.show(text, true);
+    return millisecondsOf([&] {
+        if (isOfText) {
+            view.replace(text, true, 15);
+        } else {
+            view.resize(kViewSize.width() * 4 / 5);
+        }
+        view.paint();
+    });
+}
+
+void comparePhrases(RatioTable& table)
+{
+    const Model model;
+    const LogLines ascii = linesOf(generatedLogWithPhrases(kLogBytes, Phrase::Ascii));
+    for (const auto& [phrase, name] : kPhraseRows) {
+        const LogLines lines = linesOf(generatedLogWithPhrases(kLogBytes, phrase));
+        OwnView view;
+        OwnView reference;
+        for (const bool isOfText : {true, false}) {
+            table.add(rowName(isOfText ? "another text size" : "another width", name),
+                      comparePairs(
+                          [&] { return resizeTime(view, model.styled(lines), isOfText); },
+                          [&] { return resizeTime(reference, model.styled(ascii), isOfText); }, 15),
+                      3);
+        }
+        constexpr qsizetype kBatchBytes = 1'100'000;
+        FollowedLog follow(QByteArray(), generatedLogWithPhrases(kBatchBytes, phrase));
+        FollowedLog followAscii(QByteArray(), generatedLogWithPhrases(kBatchBytes, Phrase::Ascii));
+        table.add(rowName("tail batch of 1.1 MB", name),
+                  comparePairs([&] { return follow.batchTime(); },
+                               [&] { return followAscii.batchTime(); }, 15),
+                  3);
+    }
+}
+
 double openAndShow(const Model& model, OwnView& view, const QByteArray& bytes)
 {
     return millisecondsOf([&] { view.show(model.styled(linesOf(bytes)), true); });
@@ -238,6 +293,7 @@ void runViewRatios(RatioTable& table)
     compareRewrapping(table);
     compareTailBatches(table);
     compareScripts(table);
+    comparePhrases(table);
 }
 
 } // namespace quillon::bench

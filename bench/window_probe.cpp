@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The whole program, from its start to the moment when the log that it was given is on screen.
-#include "app/command_line.h"
+#include "app/command_line/command_line.h"
 #include "app/open_window.h"
 #include "bench/probe_report.h"
 

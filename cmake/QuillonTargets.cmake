@@ -3,7 +3,7 @@
 
 add_library(quillon_options INTERFACE)
 target_compile_options(quillon_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<BOOL:${QUILLON_WERROR}>:-Werror>)
 target_compile_definitions(quillon_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
@@ -11,6 +11,11 @@ if(QUILLON_SANITIZE)
     target_compile_options(quillon_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(quillon_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(QUILLON_HARDENING AND NOT QUILLON_SANITIZE)
+    include(QuillonHardening)
+    quillon_harden(quillon_options)
 endif()
 
 # quillon_add_layer(NAME SOURCES a.cpp … HEADERS a.h … LINKS targets …)

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a log, and their first line as the search: from bytes to lines to styled rows to
 // what print mode writes. Rows must stay whole and their runs must cover them.
-//
-//   export CC=clang CXX=clang++ flags="-DQUILLON_BUILD_TESTS=OFF -DQUILLON_SANITIZE=ON"
-//   cmake -S . -B build/fuzz -G Ninja -DQUILLON_BUILD_FUZZ=ON $flags
-//   cmake --build build/fuzz --target quillon_fuzz_rows
-//   build/fuzz/quillon_fuzz_rows -max_len=4096 build/fuzz/corpus samples
-#include "app/json_row.h"
-#include "app/terminal_row.h"
-#include "model/decode_text.h"
-#include "model/line_builder.h"
+#include "app/print/json_row.h"
+#include "app/print/terminal_row.h"
+#include "fuzz/require.h"
+#include "model/records/decode_text.h"
+#include "model/records/line_builder.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "render/highlight_colors.h"
@@ -18,18 +14,9 @@
 
 #include <QJsonDocument>
 
-#include <cstdlib>
-
 namespace {
 
 using namespace quillon;
-
-void require(bool condition)
-{
-    if (!condition) {
-        std::abort();
-    }
-}
 
 void checkRuns(const AttributedRow& row)
 {
@@ -45,13 +32,14 @@ void checkRuns(const AttributedRow& row)
 
 void checkOutputs(const AttributedRow& row)
 {
-    QByteArray json;
-    appendJsonRow(row, json);
-    require(QJsonDocument::fromJson(json).isObject());
+    QByteArray json("{");
+    appendJsonRowFields(row, JsonRuns::Written, json);
+    require(QJsonDocument::fromJson(json + '}').isObject());
     QByteArray text;
-    appendPlainRow(row, ControlCharacters::AsPictures, text);
+    appendPlainRow(row, ControlCharacters::AsPictures, RowNumber::Shown, text);
     require(!text.contains('\x1B') && text.endsWith('\n'));
-    TerminalRowFormat(ColorDepth::Indexed256, ControlCharacters::AsPictures).append(row, text);
+    TerminalRowFormat(ColorDepth::Ansi16, ControlCharacters::AsPictures, RowNumber::LeftOut)
+        .append(row, text);
 }
 
 HighlightColors defaultColors()

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "model/log_loading.h"
 
-#include "model/line_builder.h"
-#include "model/line_estimate.h"
+#include "model/records/line_builder.h"
+#include "model/records/line_estimate.h"
+#include "platform/file_path.h"
 
 namespace quillon {
 
 Result<LoadedLog> loadLog(const QUrl& fileURL, quint64 maximumBytes,
                           std::optional<ReadHandle>& handle)
 {
-    const QString path = fileURL.toLocalFile();
+    const QString path = pathOfFileUrl(fileURL);
     const auto size = fileSizeAt(path);
     if (!size) {
         return size.error();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/log_line.h"
+#include "model/records/log_line.h"
 #include "platform/read_handle.h"
 
 #include <QUrl>

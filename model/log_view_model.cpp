@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "model/log_view_model.h"
 
+#include "model/display_pass.h"
 #include "model/log_loading.h"
-#include "model/log_recompute.h"
 #include "model/notification_names.h"
 #include "model/tail_reading.h"
+#include "platform/file_path.h"
 #include "platform/notification_center.h"
+#include "platform/time_slice.h"
 #include "platform/user_defaults.h"
 #include "render/preference_keys.h"
 #include "render/status_text.h"
@@ -21,18 +23,8 @@ namespace {
 constexpr auto kDisplayQuietPeriod = 60ms;
 constexpr auto kDefaultsQuietPeriod = 120ms;
 constexpr auto kPollInterval = 500ms;
-
-// Calls `changed` for the field's current value and then whenever it has become another one.
-template <typename T>
-Subscription onDistinctValue(const Published<T>& field, std::function<void()> changed)
-{
-    return field.subscribe([last = std::optional<T>(), changed](const T& value) mutable {
-        if (last != value) {
-            last = value;
-            changed();
-        }
-    });
-}
+// Of processor time, after which a pass lets the event loop see to other things.
+constexpr auto kPassSlice = 50ms;
 
 } // namespace
 
@@ -41,7 +33,11 @@ LogViewModel::LogViewModel(UserDefaults& defaults, NotificationCenter& notificat
       m_displayChanges(kDisplayQuietPeriod, [this] { recompute(); }),
       m_defaultsChanges(kDefaultsQuietPeriod, [this] { recompute(); })
 {
+    // Keys, clicks and painting come in between.
+    m_nextLook.setSingleShot(true);
+    connect(&m_nextLook, &QTimer::timeout, this, [this] { pollTail(); });
     m_defaults.registerDefaults(defaultPreferences());
+    connect(&m_nextSlice, &QTimer::timeout, this, [this] { goOn(); });
     reloadDisplayDefaults();
     subscribe();
 }
@@ -50,16 +46,17 @@ LogViewModel::~LogViewModel() = default;
 
 void LogViewModel::subscribe()
 {
-    const auto displayChanged = [this] {
+    const auto displayChanged = [this](const auto& /*value*/) {
+        abandonPass();
         m_displayChanges.trigger();
     };
-    cancellables.push_back(onDistinctValue(query, displayChanged));
-    cancellables.push_back(onDistinctValue(wrapLines, displayChanged));
-    cancellables.push_back(onDistinctValue(fontSize, displayChanged));
-    cancellables.push_back(onDistinctValue(showDeprecated, displayChanged));
-    cancellables.push_back(onDistinctValue(showWarning, displayChanged));
-    cancellables.push_back(onDistinctValue(showNotice, displayChanged));
-    cancellables.push_back(onDistinctValue(onlyErrors, displayChanged));
+    cancellables.push_back(query.subscribeDistinct(displayChanged));
+    cancellables.push_back(wrapLines.subscribeDistinct(displayChanged));
+    cancellables.push_back(fontSize.subscribeDistinct(displayChanged));
+    cancellables.push_back(showDeprecated.subscribeDistinct(displayChanged));
+    cancellables.push_back(showWarning.subscribeDistinct(displayChanged));
+    cancellables.push_back(showNotice.subscribeDistinct(displayChanged));
+    cancellables.push_back(onlyErrors.subscribeDistinct(displayChanged));
     cancellables.push_back(m_notifications.observe(kPrefsDidClose, [this] {
         reloadDisplayDefaults();
         recompute();
@@ -93,6 +90,7 @@ void LogViewModel::presentOpenPanel()
 
 void LogViewModel::clearContent()
 {
+    abandonPass();
     lines.set(LogLines());
     attributedOutput.set(AttributedString());
     statusLine.set(tr("Vide"));
@@ -100,20 +98,26 @@ void LogViewModel::clearContent()
 
 void LogViewModel::openLog(const QUrl& url)
 {
+    // The pass that is due after the start shows nothing yet; later it would only overwrite what
+    // opening says.
+    if (!fileURL) {
+        m_displayChanges.flush();
+    }
     invalidatePollTimer();
     clearContent();
     fileURL = url;
-    path.set(url.toLocalFile());
+    path.set(displayedPath(pathOfFileUrl(url)));
     statusLine.set(tr("Chargement…"));
     auto loaded = loadLog(url, initialReadBytes, readHandle);
     if (!loaded) {
-        statusLine.set(tr("Erreur d’ouverture: %1").arg(loaded.error().message()));
+        fail(tr("Erreur d’ouverture: %1"), loaded.error());
         return;
     }
+    m_lastError.reset();
     lines.set(std::move(loaded.value().lines));
     lastFileSize = loaded.value().fileSize;
     recompute();
-    statusLine.set(lineCountStatus(lines.get().size()));
+    say(lineCountStatus(lines.get().size()));
     if (followTail.get()) {
         startTail();
     }
@@ -130,6 +134,7 @@ void LogViewModel::startTail()
 
 void LogViewModel::invalidatePollTimer()
 {
+    m_nextLook.stop();
     if (pollTimer) {
         pollTimer->stop();
         // The timer may be the very one whose tick led here.
@@ -142,39 +147,71 @@ void LogViewModel::pollTail()
     if (!followTail.get() || !fileURL) {
         return;
     }
-    auto look = readTailGrowth(fileURL->toLocalFile(), lastFileSize, readHandle);
+    readTail();
+    m_polls.notify();
+}
+
+Subscription LogViewModel::observePolls(std::function<void()> callback)
+{
+    return m_polls.add(std::move(callback));
+}
+
+void LogViewModel::readTail()
+{
+    auto look = readTailGrowth(pathOfFileUrl(*fileURL), lastFileSize, readHandle);
     if (!look) {
-        reportTailError(look.error());
+        fail(tr("Erreur lecture tail: %1"), look.error());
         return;
     }
+    m_lastError.reset();
     if (!look.value()) {
         return;
     }
     const TailGrowth& growth = *look.value();
-    lastFileSize = growth.fileSize;
+    lastFileSize = growth.nextOffset;
+    if (growth.hasMore) {
+        m_nextLook.start();
+    }
     const LogLines newLines = parseTail(growth.bytes, lines.get());
     if (newLines.isEmpty()) {
         return;
     }
     lines.mutate([&newLines](LogLines& all) { all.append(newLines); });
     recompute(newLines);
-    statusLine.set(lineCountStatus(lines.get().size()));
+    say(lineCountStatus(lines.get().size()));
 }
 
-void LogViewModel::reportTailError(SystemError error)
+void LogViewModel::fail(const QString& sentence, SystemError error)
 {
-    statusLine.set(tr("Erreur lecture tail: %1").arg(error.message()));
+    m_lastError = error;
+    say(sentence.arg(error.message()));
 }
 
-DisplayOptions LogViewModel::displayOptions() const
+void LogViewModel::say(const QString& status)
+{
+    if (m_pass) {
+        m_saidMeanwhile = status;
+    }
+    statusLine.set(status);
+}
+
+std::shared_ptr<const SearchExpression> LogViewModel::compiledQuery()
+{
+    if (m_searchedQuery != query.get()) {
+        m_searchedQuery = query.get();
+        m_search = SearchExpression::make(m_searchedQuery);
+    }
+    return m_search;
+}
+
+DisplayOptions LogViewModel::displayOptions()
 {
     return DisplayOptions{
         .filter = {.onlyErrors = onlyErrors.get(),
                    .showWarning = showWarning.get(),
                    .showNotice = showNotice.get(),
                    .showDeprecated = showDeprecated.get(),
-                   .search = nullptr},
-        .query = query.get(),
+                   .search = compiledQuery()},
         .baseAttributes = {.fontSize = fontSize.get(),
                            .foreground = Color::system(SystemColor::Text),
                            .lineBreakMode = wrapLines.get() ? LineBreakMode::WordWrapping
@@ -185,16 +222,72 @@ DisplayOptions LogViewModel::displayOptions() const
 void LogViewModel::recompute(const LogLines& newLines)
 {
     if (newLines.isEmpty()) {
-        DisplayedLog display = rebuildDisplay(lines.get(), displayOptions(), m_defaults);
+        begin(DisplayPass::rebuild(lines.get(), displayOptions(), m_defaults));
+    } else if (m_pass) {
+        m_pass->join(newLines, lines.get());
+    } else {
+        begin(
+            DisplayPass::extension(attributedOutput.get(), newLines, displayOptions(), m_defaults));
+    }
+}
+
+void LogViewModel::begin(DisplayPass pass)
+{
+    m_saidMeanwhile.reset();
+    m_pass = std::make_unique<DisplayPass>(std::move(pass));
+    goOn();
+}
+
+void LogViewModel::goOn()
+{
+    const TimeSlice slice(kPassSlice);
+    if (!m_pass->goOn([&slice] { return slice.isOver(); })) {
+        // After whatever else is due: events of the window system go before idle timers.
+        m_nextSlice.start(0);
+        setRecomputing(true);
+        return;
+    }
+    m_nextSlice.stop();
+    // Whoever is told may begin another one.
+    const std::unique_ptr<DisplayPass> pass = std::move(m_pass);
+    const std::optional<QString> saidMeanwhile = std::exchange(m_saidMeanwhile, std::nullopt);
+    publish(*pass);
+    if (saidMeanwhile && !m_pass) {
+        statusLine.set(*saidMeanwhile);
+    }
+    setRecomputing(m_pass != nullptr);
+}
+
+void LogViewModel::publish(const DisplayPass& pass)
+{
+    DisplayedLog display = pass.result(lines.get().size());
+    if (pass.kind() == DisplayPass::Kind::Rebuild) {
+        undecidedLines.set(display.undecidedLines);
         statusLine.set(display.statusLine);
         attributedOutput.set(std::move(display.output));
         return;
     }
-    auto display = extendDisplay(attributedOutput.get(), newLines, lines.get().size(),
-                                 displayOptions(), m_defaults);
-    if (display) {
-        attributedOutput.set(std::move(display->output));
-        statusLine.set(display->statusLine);
+    if (display.undecidedLines > 0) {
+        undecidedLines.set(undecidedLines.get() + display.undecidedLines);
+    }
+    if (display.newRows > 0) {
+        attributedOutput.set(std::move(display.output));
+        statusLine.set(display.statusLine);
+    }
+}
+
+void LogViewModel::abandonPass()
+{
+    m_pass.reset();
+    m_nextSlice.stop();
+    m_saidMeanwhile.reset();
+    setRecomputing(false);
+}
+
+void LogViewModel::setRecomputing(bool isGoingOn)
+{
+    if (isRecomputing.get() != isGoingOn) {
+        isRecomputing.set(isGoingOn);
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/log_line.h"
+#include "model/records/log_line.h"
 #include "platform/read_handle.h"
 
 #include <QString>
@@ -12,15 +12,24 @@ namespace quillon {
 
 // What a look at a followed file found new.
 struct TailGrowth {
-    // The file's size in bytes when the look began, at which the next look starts. Bytes written
-    // during the look may be read now and again then.
-    quint64 fileSize = 0;
+    // Where the next look starts: the file's size in bytes when this one began, at which bytes that
+    // were written meanwhile may have been read already, or, where there is more, the end of the
+    // bytes.
+    quint64 nextOffset = 0;
     QByteArray bytes;
+    // Whether the file had more than a look takes at once. The bytes end where a line does, so that
+    // the looks that follow make the lines that one look at all of it would have made.
+    bool hasMore = false;
 };
+
+// How much a look takes at once, in bytes: what is read, shown and painted before anybody feels
+// that a key waits for it.
+inline constexpr qint64 kLookBytes = qint64{4} * 1024 * 1024;
 
 // Reads what the file has past `lastFileSize` bytes. No growth where it is not longer, also when it
 // has become shorter: a truncated file shows nothing new until it outgrows its old size. The growth
-// is without value, and nothing is read, where there is no handle.
+// is without value, and nothing is read, where there is no handle. A line is read whole, however
+// long, but fails with EFBIG where it is longer than ReadHandle::kMaximumReadBytes.
 Result<std::optional<TailGrowth>> readTailGrowth(const QString& path, quint64 lastFileSize,
                                                  std::optional<ReadHandle>& handle);
 

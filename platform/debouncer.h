@@ -15,9 +15,12 @@ public:
     Debouncer(std::chrono::milliseconds quietPeriod, std::function<void()> action);
 
     void trigger();
+    // Makes the call now if it is due.
+    void flush();
 
 private:
     QTimer m_timer;
+    const std::function<void()> m_action;
 };
 
 } // namespace quillon

@@ -3,6 +3,7 @@
 
 #include "platform/subscription.h"
 
+#include <optional>
 #include <utility>
 
 namespace quillon {
@@ -47,6 +48,17 @@ public:
     {
         callback(m_value);
         return m_stream.add(std::move(callback));
+    }
+
+    // As subscribe(), but without the values that equal the one before.
+    [[nodiscard]] Subscription subscribeDistinct(std::function<void(const T&)> callback) const
+    {
+        return subscribe([last = std::optional<T>(), callback](const T& value) mutable {
+            if (last != value) {
+                last = value;
+                callback(value);
+            }
+        });
     }
 
 private:

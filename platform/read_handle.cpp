@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/read_handle.h"
 
-#include <QFile>
+#include "platform/file_path.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -27,7 +27,7 @@ std::optional<SystemError> refusalOf(const struct stat& status)
 Result<quint64> fileSizeAt(const QString& path)
 {
     struct stat status {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+    if (::stat(bytesOfPath(path).constData(), &status) != 0) {
         return SystemError{errno};
     }
     if (const auto refusal = refusalOf(status)) {
@@ -40,8 +40,11 @@ Result<ReadHandle> ReadHandle::open(const QString& path)
 {
     // Without O_NONBLOCK, opening a pipe would wait for somebody to write to it; on the regular
     // files that are let through it changes nothing.
-    const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    int descriptor = -1;
+    do {
+        descriptor =
+            ::open(bytesOfPath(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    } while (descriptor < 0 && errno == EINTR);
     if (descriptor < 0) {
         return SystemError{errno};
     }

@@ -16,13 +16,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// QSettings notes a file's size and time after it has read it, so that of a file that is written
-// meanwhile it keeps the former text and never reads the new one. Whoever writes a settings file is
-// done before this has passed.
+// An editor that writes into the file is done before this has passed, so that half a text is never
+// taken for what the user wants.
 constexpr auto kOutsideQuietPeriod = 50ms;
 
-// An unquoted comma in a hand-edited settings file makes QSettings read a list; as text it is the
-// line that the user wrote.
+// Another window that is writing the file is done before this has passed.
+constexpr auto kRetryPeriod = 50ms;
+
 std::optional<QString> textOf(const QVariant& value)
 {
     if (value.typeId() == QMetaType::QStringList) {
@@ -42,6 +42,29 @@ double numberAtStartOf(const QString& text)
     return std::isfinite(value) ? value : 0.0;
 }
 
+QHash<QString, QVariant> asVariants(const QHash<QString, QString>& texts)
+{
+    QHash<QString, QVariant> variants;
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+        variants.insert(it.key(), it.value());
+    }
+    return variants;
+}
+
+// Our own writes come back too: values as text, where they were set as numbers.
+bool haveSameTexts(const QHash<QString, QVariant>& some, const QHash<QString, QVariant>& others)
+{
+    if (some.size() != others.size()) {
+        return false;
+    }
+    for (auto it = some.cbegin(); it != some.cend(); ++it) {
+        if (!others.contains(it.key()) || textOf(*it) != textOf(others.value(it.key()))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool isText(const QVariant& value)
 {
     return value.typeId() == QMetaType::QString || value.typeId() == QMetaType::QStringList;
@@ -51,27 +74,35 @@ bool isText(const QVariant& value)
 
 QString UserDefaults::standardFilePath()
 {
-    // QSettings knows where each platform keeps such files, but ends the name in ".ini".
-    const QString iniPath = QSettings(QSettings::IniFormat, QSettings::UserScope,
-                                      QStringLiteral("Quillon"), QStringLiteral("Quillon"))
-                                .fileName();
-    return iniPath.chopped(4) + QStringLiteral(".conf");
+    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME", QStringLiteral(".config"));
+    if (folder.isEmpty()) {
+        folder = QStringLiteral(".config");
+    }
+    return QDir::home().filePath(folder) + QStringLiteral("/Quillon/Quillon.conf");
 }
 
 UserDefaults::UserDefaults(NotificationCenter& center, const QString& filePath)
-    : m_center(center), m_settings(filePath, QSettings::IniFormat),
+    : m_center(center), m_file(filePath),
       m_outsideChanges(kOutsideQuietPeriod, [this] { reloadAfterOutsideChange(); })
 {
-    m_stored = readStored();
+    if (const auto values = m_file.read()) {
+        m_stored = asVariants(values.value());
+    }
     watchFile();
     const auto changed = [this] {
         m_outsideChanges.trigger();
     };
-    QObject::connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_settings, changed);
-    QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settings, changed);
+    QObject::connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_watcher, changed);
+    QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_watcher, changed);
+    m_writing.setSingleShot(true);
+    QObject::connect(&m_writing, &QTimer::timeout, &m_writing,
+                     [this] { writeChanges(SettingsFile::WhenBusy::Leave); });
 }
 
-UserDefaults::~UserDefaults() = default;
+UserDefaults::~UserDefaults()
+{
+    writeChanges(SettingsFile::WhenBusy::WriteAnyway);
+}
 
 void UserDefaults::registerDefaults(const Table& table)
 {
@@ -114,24 +145,46 @@ double UserDefaults::doubleForKey(const QString& key) const
 
 void UserDefaults::setObject(const QVariant& value, const QString& key)
 {
-    m_settings.setValue(key, value);
     m_stored.insert(key, value);
-    watchFile();
-    m_center.post(kUserDefaultsDidChange);
+    noteChange(key);
 }
 
 void UserDefaults::removeObject(const QString& key)
 {
-    m_settings.remove(key);
     m_stored.remove(key);
+    noteChange(key);
+}
+
+void UserDefaults::noteChange(const QString& key)
+{
+    m_unwritten.insert(key, textOf(m_stored.value(key)));
+    m_writing.start(0);
     m_center.post(kUserDefaultsDidChange);
+}
+
+void UserDefaults::writeChanges(SettingsFile::WhenBusy whenBusy)
+{
+    if (m_unwritten.isEmpty()) {
+        return;
+    }
+    switch (m_file.change(m_unwritten, whenBusy)) {
+    case SettingsFile::Written::Yes:
+        m_unwritten.clear();
+        watchFile();
+        break;
+    case SettingsFile::Written::LaterPerhaps:
+        m_writing.start(kRetryPeriod);
+        break;
+    case SettingsFile::Written::No:
+        break;
+    }
 }
 
 // Editors replace the file rather than write into it, which ends a watch on the file itself; the
 // watch on its folder (or on the nearest one that may be read) tells when it is back.
 bool UserDefaults::watchFile()
 {
-    const QString path = m_settings.fileName();
+    const QString& path = m_file.path();
     QString folder = QFileInfo(path).absolutePath();
     while (!QFileInfo(folder).isReadable() && !QDir(folder).isRoot()) {
         folder = QFileInfo(folder).absolutePath();
@@ -149,32 +202,25 @@ bool UserDefaults::watchFile()
 void UserDefaults::reloadAfterOutsideChange()
 {
     // What changes between reading and the start of a watch would go unseen: read again after it.
-    do {
-        m_settings.sync();
-    } while (watchFile());
-    QHash<QString, QVariant> stored = readStored();
-    // Our own writes come back here too: values as text, where they were set as numbers.
-    const auto sameText = [](const QVariant& a, const QVariant& b) {
-        return textOf(a) == textOf(b);
-    };
-    bool changed = stored.size() != m_stored.size();
-    for (auto it = stored.cbegin(); !changed && it != stored.cend(); ++it) {
-        changed = !m_stored.contains(it.key()) || !sameText(*it, m_stored.value(it.key()));
+    auto values = m_file.read();
+    while (watchFile()) {
+        values = m_file.read();
     }
-    if (changed) {
+    if (!values) {
+        return;
+    }
+    QHash<QString, QVariant> stored = asVariants(values.value());
+    for (auto it = m_unwritten.cbegin(); it != m_unwritten.cend(); ++it) {
+        if (it.value()) {
+            stored.insert(it.key(), *it.value());
+        } else {
+            stored.remove(it.key());
+        }
+    }
+    if (!haveSameTexts(stored, m_stored)) {
         m_stored = std::move(stored);
         m_center.post(kUserDefaultsDidChange);
     }
-}
-
-QHash<QString, QVariant> UserDefaults::readStored() const
-{
-    QHash<QString, QVariant> stored;
-    const QStringList keys = m_settings.allKeys();
-    for (const QString& key : keys) {
-        stored.insert(key, m_settings.value(key));
-    }
-    return stored;
 }
 
 } // namespace quillon

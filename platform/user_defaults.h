@@ -2,12 +2,13 @@
 #pragma once
 
 #include "platform/debouncer.h"
+#include "platform/settings_file.h"
 
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QList>
-#include <QSettings>
 #include <QString>
+#include <QTimer>
 #include <QVariant>
 
 #include <optional>
@@ -22,8 +23,9 @@ inline constexpr QLatin1StringView kUserDefaultsDidChange{"Quillon.userDefaultsD
 
 // The user's settings: stored values in the settings file, over registered defaults that are never
 // written. Reads never fail: what is missing reads as no text, false or 0, and a value of another
-// kind is converted. A settings file that cannot be read or written leaves the defaults in force
-// and keeps the values set since in memory. The notification centre must outlive the object.
+// kind is converted. A settings file that cannot be read at the start leaves the defaults in force,
+// one that cannot be read later the values that are known; what cannot be written is kept in memory
+// and written with the next value. The notification centre must outlive the object.
 class UserDefaults {
 public:
     using Table = QList<std::pair<QString, QVariant>>;
@@ -47,7 +49,8 @@ public:
     // Text reads as the number that it begins with, 0 when there is none.
     [[nodiscard]] double doubleForKey(const QString& key) const;
 
-    // Stores a value and posts kUserDefaultsDidChange. The file is written by the event loop.
+    // Stores a value and posts kUserDefaultsDidChange. The file is written by the event loop. Of
+    // the key see SettingsText.
     void setObject(const QVariant& value, const QString& key);
     void removeObject(const QString& key);
 
@@ -55,12 +58,16 @@ private:
     // Gives true when it began to watch something that it did not watch before.
     bool watchFile();
     void reloadAfterOutsideChange();
-    [[nodiscard]] QHash<QString, QVariant> readStored() const;
+    void noteChange(const QString& key);
+    void writeChanges(SettingsFile::WhenBusy whenBusy);
 
     NotificationCenter& m_center;
-    QSettings m_settings;
+    const SettingsFile m_file;
     QHash<QString, QVariant> m_stored;
     QHash<QString, QVariant> m_registered;
+    // What m_stored has and the file has not, or the other way round.
+    SettingsFile::Changes m_unwritten;
+    QTimer m_writing;
     QFileSystemWatcher m_watcher;
     Debouncer m_outsideChanges;
 };

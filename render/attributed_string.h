@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/log_severity.h"
+#include "model/records/log_severity.h"
 #include "platform/append_only_list.h"
 #include "render/text_attributes.h"
 

@@ -24,16 +24,6 @@ QLatin1StringView systemColorName(SystemColor color)
     return kNames[static_cast<std::size_t>(color)];
 }
 
-Color Color::rgb(double red, double green, double blue, double alpha)
-{
-    return Color(RgbComponents{red, green, blue}, alpha);
-}
-
-Color Color::system(SystemColor color, double alpha)
-{
-    return Color(color, alpha);
-}
-
 Color Color::withAlpha(double alpha) const
 {
     return Color(m_value, alpha);

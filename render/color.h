@@ -40,8 +40,14 @@ struct RgbComponents {
 // pixels a system colour means is left to whoever draws.
 class Color {
 public:
-    static Color rgb(double red, double green, double blue, double alpha = 1.0);
-    static Color system(SystemColor color, double alpha = 1.0);
+    static constexpr Color rgb(double red, double green, double blue, double alpha = 1.0)
+    {
+        return Color(RgbComponents{red, green, blue}, alpha);
+    }
+    static constexpr Color system(SystemColor color, double alpha = 1.0)
+    {
+        return Color(color, alpha);
+    }
 
     [[nodiscard]] double alpha() const { return m_alpha; }
     [[nodiscard]] Color withAlpha(double alpha) const;
@@ -55,7 +61,7 @@ public:
 
 private:
     using Value = std::variant<RgbComponents, SystemColor>;
-    Color(Value value, double alpha) : m_value(value), m_alpha(alpha) {}
+    constexpr Color(Value value, double alpha) : m_value(value), m_alpha(alpha) {}
 
     Value m_value;
     double m_alpha;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/log_severity.h"
-#include "render/color.h"
+#include "render/highlight_preferences.h"
 
 #include <array>
 
@@ -17,9 +16,13 @@ Color colorForSeverity(LogSeverity severity, const UserDefaults& defaults);
 // Every highlight colour as the defaults give it at one moment. One pass over the lines runs
 // without interruption, so reading once per pass shows what reading per row would.
 struct HighlightColors {
-    std::array<Color, kAllSeverities.size()> severity;
-    Color date;
-    Color arrayDump;
+    // In the order of the roles.
+    std::array<Color, kHighlightPreferences.size()> ofRole;
+
+    [[nodiscard]] const Color& operator[](HighlightRole role) const
+    {
+        return ofRole[static_cast<std::size_t>(role)];
+    }
 
     static HighlightColors read(const UserDefaults& defaults);
 };

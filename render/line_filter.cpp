@@ -20,9 +20,12 @@ bool LineFilter::allows(LogSeverity severity) const
     }
 }
 
-bool LineFilter::allows(const LogLine& line) const
+Verdict LineFilter::decide(const LogLine& line) const
 {
-    return allows(line.severity()) && (!search || search->matches(line.text()));
+    if (!allows(line.severity())) {
+        return Verdict::NoMatch;
+    }
+    return search ? search->decide(line.text()) : Verdict::Match;
 }
 
 } // namespace quillon

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/log_line.h"
-#include "render/search_expression.h"
+#include "model/records/log_line.h"
+#include "search/search_expression.h"
 
 #include <memory>
 
@@ -21,8 +21,10 @@ struct LineFilter {
     // are wanted, whatever the other switches say.
     [[nodiscard]] bool allows(LogSeverity severity) const;
 
-    // Whether the line is shown. Only its text is searched, never its number.
-    [[nodiscard]] bool allows(const LogLine& line) const;
+    // Whether the line is one to be shown. Only its text is searched, never its number. A line of
+    // which that is undecided is not shown.
+    [[nodiscard]] Verdict decide(const LogLine& line) const;
+    [[nodiscard]] bool allows(const LogLine& line) const { return decide(line) == Verdict::Match; }
 };
 
 } // namespace quillon

@@ -3,23 +3,28 @@
 
 namespace quillon {
 
-const UserDefaults::Table& defaultPreferences()
+namespace {
+
+UserDefaults::Table makeDefaultPreferences()
 {
     using namespace preference_keys;
-    static const UserDefaults::Table table{
-        {kColorFatal, QStringLiteral("#FF3B30")},
-        {kColorError, QStringLiteral("#FF3B30")},
-        {kColorWarning, QStringLiteral("#FF9500")},
-        {kColorNotice, QStringLiteral("#FFD60A")},
-        {kColorDeprecated, QStringLiteral("#F4C361")},
-        {kColorInfo, QStringLiteral("#0A84FF")},
-        {kColorDebug, QStringLiteral("#8E8E93")},
-        {kColorDate, QStringLiteral("#0A84FF")},
-        {kColorArrayDump, QStringLiteral("#BF5AF2")},
-        {kWrapDefault, true},
-        {kFontDefault, 13.0},
-        {kDefaultFolder, QStringLiteral("")},
-    };
+    UserDefaults::Table table;
+    for (const HighlightPreference& preference : kHighlightPreferences) {
+        if (preference.isStored()) {
+            table.emplace_back(preference.key, QString(preference.initial));
+        }
+    }
+    table.emplace_back(kWrapDefault, true);
+    table.emplace_back(kFontDefault, 13.0);
+    table.emplace_back(kDefaultFolder, QString());
+    return table;
+}
+
+} // namespace
+
+const UserDefaults::Table& defaultPreferences()
+{
+    static const UserDefaults::Table table = makeDefaultPreferences();
     return table;
 }
 

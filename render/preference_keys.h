@@ -2,22 +2,14 @@
 #pragma once
 
 #include "platform/user_defaults.h"
+#include "render/highlight_preferences.h"
 
 #include <QString>
 
 namespace quillon {
 
-// The keys of the user defaults. Colours are texts in the format of color_codec.h.
+// The keys of the user defaults beside those of the colours (highlight_preferences.h).
 namespace preference_keys {
-inline constexpr QLatin1StringView kColorFatal{"prefs.color.fatal"};
-inline constexpr QLatin1StringView kColorError{"prefs.color.error"};
-inline constexpr QLatin1StringView kColorWarning{"prefs.color.warning"};
-inline constexpr QLatin1StringView kColorNotice{"prefs.color.notice"};
-inline constexpr QLatin1StringView kColorDeprecated{"prefs.color.deprecated"};
-inline constexpr QLatin1StringView kColorInfo{"prefs.color.info"};
-inline constexpr QLatin1StringView kColorDebug{"prefs.color.debug"};
-inline constexpr QLatin1StringView kColorDate{"prefs.color.date"};
-inline constexpr QLatin1StringView kColorArrayDump{"prefs.color.arraydump"};
 // Boolean: whether lines are wrapped at start.
 inline constexpr QLatin1StringView kWrapDefault{"prefs.wrap.default"};
 // Number, points: the text size at start.
@@ -26,7 +18,11 @@ inline constexpr QLatin1StringView kFontDefault{"prefs.font.default"};
 inline constexpr QLatin1StringView kDefaultFolder{"prefs.default.folder"};
 } // namespace preference_keys
 
-// Every key with its default, in the order above.
+// The text sizes that can be chosen, in points.
+inline constexpr int kSmallestFontSize = 10;
+inline constexpr int kLargestFontSize = 24;
+
+// Every key with its default: the colours in the order of their roles, then the keys above.
 const UserDefaults::Table& defaultPreferences();
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/regular_expression.h"
+#include "search/regular_expression.h"
 
 #include <QStringView>
 

@@ -14,4 +14,8 @@ QString allFilteredStatus(qint64 lineCount);
 // "Lignes: N", after a file was opened or lines were appended.
 QString lineCountStatus(qint64 lineCount);
 
+// How many lines are hidden because it takes too long to find out whether they match; empty for
+// none.
+QString undecidedText(qint64 lineCount);
+
 } // namespace quillon

@@ -2,6 +2,7 @@
 #include "render/styled_line.h"
 
 #include "render/row_patterns.h"
+#include "search/row_marks.h"
 
 #include <algorithm>
 
@@ -126,9 +127,9 @@ std::vector<AttributeRun> LogRowStyler::runsOf(const AttributedRow& row) const
             attributes.foreground = color;
         };
     };
-    RunBuilder runs(row.length(), m_colors.severity[static_cast<std::size_t>(row.severity())]);
+    RunBuilder runs(row.length(), m_colors[roleOf(row.severity())]);
     if (const auto timestamp = findTimestamp(text)) {
-        runs.apply(inRow(*timestamp), foreground(m_colors.date));
+        runs.apply(inRow(*timestamp), foreground(m_colors[HighlightRole::Date]));
         if (const auto time = findTimeOfDay(text)) {
             runs.apply(inRow(*time),
                        [](RunAttributes& attributes) { attributes.weight = FontWeight::Bold; });
@@ -136,10 +137,11 @@ std::vector<AttributeRun> LogRowStyler::runsOf(const AttributedRow& row) const
     }
     runs.apply(TextRange{0, textStart - 1}, foreground(Color::system(SystemColor::SecondaryLabel)));
     if (hasDumpCall(text)) {
-        runs.apply(TextRange{0, row.length()}, foreground(m_colors.arrayDump));
+        runs.apply(TextRange{0, row.length()}, foreground(m_colors[HighlightRole::ArrayDump]));
     }
     if (m_search) {
-        runs.applyToEach(m_search->rangesIn(row.string()), [](RunAttributes& attributes) {
+        RowMarks marks(*m_search, row.string(), TextRange{textStart, text.size()});
+        runs.applyToEach(marks.upTo(row.length()), [](RunAttributes& attributes) {
             attributes.background =
                 Color::system(SystemColor::SelectedTextBackground, kMatchBackgroundAlpha);
             attributes.foreground = Color::system(SystemColor::Text);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/log_line.h"
+#include "model/records/log_line.h"
 #include "render/attributed_string.h"
 #include "render/highlight_colors.h"
-#include "render/search_expression.h"
+#include "search/search_expression.h"
 
 #include <memory>
 

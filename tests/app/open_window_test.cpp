@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/app/quillon_process.h"
+#include "tests/app/print/quillon_process.h"
 #include "tests/support/printing.h"
 
 #include <QFile>
@@ -24,8 +24,28 @@ TEST_F(ProgramAlone, SaysWhyThereIsNoWindow)
     quillon.process().setProgram(m_program);
     EXPECT_EQ(quillon.run(), 1);
     EXPECT_EQ(quillon.output(), QByteArray());
-    EXPECT_TRUE(quillon.errors().startsWith("quillon: impossible de charger la fenêtre: "));
-    EXPECT_EQ(quillon.errors().count('\n'), 1);
+    EXPECT_EQ(quillon.errors(),
+              QByteArray("quillon: la fenêtre n’est pas installée\u202F; «\u202Fquillon "
+                         "--print FICHIER\u202F» affiche le journal dans le "
+                         "terminal\n"));
+}
+
+TEST(Program, SaysThatThereIsNoDisplay)
+{
+    const TemporaryFolder folder;
+    const QString none = QStringLiteral("");
+    QuillonProcess quillon({QStringLiteral("x.log")},
+                           {{QStringLiteral("DISPLAY"), none},
+                            {QStringLiteral("WAYLAND_DISPLAY"), none},
+                            {QStringLiteral("WAYLAND_SOCKET"), none},
+                            {QStringLiteral("XDG_RUNTIME_DIR"), folder.path(QString())},
+                            {QStringLiteral("QT_QPA_PLATFORM"), none}});
+    EXPECT_EQ(quillon.run(), 1);
+    EXPECT_EQ(quillon.output(), QByteArray());
+    EXPECT_EQ(quillon.errors(),
+              QByteArray("quillon: aucun écran n’est accessible\u202F; «\u202Fquillon "
+                         "--print FICHIER\u202F» affiche le journal dans le "
+                         "terminal\n"));
 }
 
 TEST_F(ProgramAlone, Prints)

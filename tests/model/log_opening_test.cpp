@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "platform/file_path.h"
 #include "tests/model/view_model_fixture.h"
 #include "tests/support/test_data.h"
+
+#include <QFile>
+
+#include <cstdio>
 
 namespace quillon {
 namespace {
@@ -38,6 +43,7 @@ TEST_F(LogOpening, LeavesTheHandleAtTheEndOfWhatWasRead)
 
 TEST_F(LogOpening, TheStatusPassesThroughItsStages)
 {
+    open("zéro\n");
     QStringList stages;
     const Subscription subscription =
         model().statusLine.subscribe([&stages](const QString& text) { stages.append(text); });
@@ -46,6 +52,41 @@ TEST_F(LogOpening, TheStatusPassesThroughItsStages)
     EXPECT_EQ(stages, (QStringList{QStringLiteral("Vide"), QStringLiteral("Chargement…"),
                                    QStringLiteral("Lignes: 1 • Affichées: 1"),
                                    QStringLiteral("Lignes: 1")}));
+}
+
+TEST_F(LogOpening, AtTheStartComesAfterThePassThatIsDueThen)
+{
+    QStringList stages;
+    const Subscription subscription =
+        model().statusLine.subscribe([&stages](const QString& text) { stages.append(text); });
+    stages.clear();
+    open("un\n");
+    EXPECT_EQ(stages.value(0), QStringLiteral("Lignes: 0 • Affichées: 0"));
+    EXPECT_EQ(stages.value(1), QStringLiteral("Vide"));
+    stages.clear();
+    spinFor(std::chrono::milliseconds(100));
+    EXPECT_EQ(stages, QStringList());
+    EXPECT_EQ(status(), QStringLiteral("Lignes: 1"));
+}
+
+TEST_F(LogOpening, AFileOfAnyNameOpensAndIsFollowed)
+{
+    const QByteArray bytes =
+        QFile::encodeName(folder().path(QString())) + "/caf\xE9 \x1B[31m\n\xE2\x80\xAE%41?#.log";
+    const auto append = [&bytes](const char* line) {
+        std::FILE* const file = std::fopen(bytes.constData(), "a");
+        ASSERT_NE(file, nullptr);
+        std::fputs(line, file);
+        std::fclose(file);
+    };
+    append("un\n");
+    model().followTail.set(true);
+    model().openLog(fileUrlOfPath(pathFromBytes(bytes)));
+    append("deux\n");
+    model().pollTail();
+    EXPECT_EQ(texts(), (QStringList{QStringLiteral("un"), QStringLiteral("deux")}));
+    EXPECT_EQ(model().path.get(),
+              folder().path(QStringLiteral("caf\uFFFD \u241B[31m\u240A\uFFFD%41?#.log")));
 }
 
 TEST_F(LogOpening, PublishesTheLinesInOneAssignment)

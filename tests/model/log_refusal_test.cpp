@@ -15,6 +15,7 @@ class LogRefusal : public ViewModelTest {
 protected:
     void expectRefusal(int number)
     {
+        EXPECT_EQ(model().lastError(), SystemError{number});
         EXPECT_EQ(status(), QStringLiteral("Erreur d’ouverture: ") + SystemError{number}.message());
         EXPECT_TRUE(model().lines.get().isEmpty());
         EXPECT_EQ(output(), QString());
@@ -26,6 +27,13 @@ TEST_F(LogRefusal, AMissingFileIsReported)
 {
     model().openLog(url());
     expectRefusal(ENOENT);
+}
+
+TEST_F(LogRefusal, IsForgottenWhenAFileOpens)
+{
+    model().openLog(url());
+    open("x\n");
+    EXPECT_EQ(model().lastError(), std::nullopt);
 }
 
 TEST_F(LogRefusal, ADirectoryIsReported)

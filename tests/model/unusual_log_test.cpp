@@ -56,6 +56,7 @@ TEST_F(UnusualLog, IsOneLineOfTwoMebibytes)
 TEST_F(UnusualLog, IsTwoMillionEmptyLines)
 {
     open(QByteArray(2'000'000, '\n'));
+    ASSERT_TRUE(finishPass());
     EXPECT_EQ(model().lines.get().size(), 2'000'000);
     EXPECT_EQ(number(1'999'999), 2'000'000);
     EXPECT_EQ(model().attributedOutput.get().lineFeedCount(), 2'000'000);
@@ -84,6 +85,7 @@ TEST_F(UnusualLog, HasLineNumbersBeyondThirtyTwoBits)
     folder().append(kFile, QByteArray(kTwoMebibytes + 32'768, '\n'));
     model().openLog(url());
     ASSERT_EQ(model().lines.get().size(), kTwoMebibytes);
+    ASSERT_TRUE(finishPass());
     EXPECT_EQ(number(0), kStart + 1);
     EXPECT_EQ(model().attributedOutput.get().rows()[0].string(),
               QStringLiteral("107372085249\t\n"));

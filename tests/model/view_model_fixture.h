@@ -35,6 +35,12 @@ protected:
         m_model.openLog(url());
     }
 
+    // Lets a pass that takes more than a slice of processor time come to its end.
+    bool finishPass()
+    {
+        return spinUntil([this] { return !m_model.isRecomputing.get(); });
+    }
+
     [[nodiscard]] QString status() const { return m_model.statusLine.get(); }
     [[nodiscard]] QString output() const { return m_model.attributedOutput.get().string(); }
     [[nodiscard]] qint64 number(qsizetype index) const

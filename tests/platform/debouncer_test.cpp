@@ -42,6 +42,19 @@ TEST(Debouncer, MakesOneCallForABurst)
     EXPECT_EQ(calls, 1);
 }
 
+TEST(Debouncer, CallsOnceAndAtOnceWhenFlushed)
+{
+    int calls = 0;
+    Debouncer debouncer(1ms, [&calls] { ++calls; });
+    debouncer.flush();
+    EXPECT_EQ(calls, 0);
+    debouncer.trigger();
+    debouncer.flush();
+    EXPECT_EQ(calls, 1);
+    spinFor(20ms);
+    EXPECT_EQ(calls, 1);
+}
+
 TEST(Debouncer, CallsAgainAfterANewTrigger)
 {
     int calls = 0;

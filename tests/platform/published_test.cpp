@@ -112,6 +112,19 @@ TEST(Subscription, MayBeCancelledTwice)
     EXPECT_NO_FATAL_FAILURE(subscription.cancel());
 }
 
+TEST(Published, TellsOfDistinctValuesOnly)
+{
+    Published<int> field(1);
+    std::vector<int> heard;
+    const Subscription subscription =
+        field.subscribeDistinct([&heard](int value) { heard.push_back(value); });
+    field.set(1);
+    field.set(2);
+    field.set(2);
+    field.set(1);
+    EXPECT_EQ(heard, (std::vector{1, 2, 1}));
+}
+
 TEST(Subscription, MayEndFromInsideItsOwnCall)
 {
     Published<int> field(1);

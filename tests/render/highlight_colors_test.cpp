@@ -93,23 +93,25 @@ TEST_F(HighlightColorsTest, UnknownLinesIgnoreEveryPreference)
 TEST_F(HighlightColorsTest, AnInvalidDateColorIsTheSystemsBlue)
 {
     defaults().setObject(QStringLiteral("blue"), kColorDate);
-    EXPECT_EQ(HighlightColors::read(defaults()).date, Color::system(SystemColor::Blue));
+    EXPECT_EQ(HighlightColors::read(defaults())[HighlightRole::Date],
+              Color::system(SystemColor::Blue));
 }
 
 TEST_F(HighlightColorsTest, AnInvalidDumpColorIsTheSystemsPurple)
 {
     defaults().setObject(QStringLiteral("purple"), kColorArrayDump);
-    EXPECT_EQ(HighlightColors::read(defaults()).arrayDump, Color::system(SystemColor::Purple));
+    EXPECT_EQ(HighlightColors::read(defaults())[HighlightRole::ArrayDump],
+              Color::system(SystemColor::Purple));
 }
 
 TEST_F(HighlightColorsTest, AreReadAllTogetherInOrderOfSeverity)
 {
     const HighlightColors colors = HighlightColors::read(defaults());
     for (const LogSeverity severity : kAllSeverities) {
-        EXPECT_EQ(colors.severity[std::size_t(severity)], colorForSeverity(severity, defaults()));
+        EXPECT_EQ(colors[roleOf(severity)], colorForSeverity(severity, defaults()));
     }
-    EXPECT_EQ(colors.date, colorFromHex(QStringLiteral("#0A84FF")));
-    EXPECT_EQ(colors.arrayDump, colorFromHex(QStringLiteral("#BF5AF2")));
+    EXPECT_EQ(colors[HighlightRole::Date], colorFromHex(QStringLiteral("#0A84FF")));
+    EXPECT_EQ(colors[HighlightRole::ArrayDump], colorFromHex(QStringLiteral("#BF5AF2")));
 }
 
 TEST_F(HighlightColorsTest, ANumberIsNoColor)

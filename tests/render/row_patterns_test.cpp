@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "model/decode_text.h"
-#include "model/line_enumeration.h"
+#include "model/records/decode_text.h"
+#include "model/records/line_enumeration.h"
 #include "render/row_patterns.h"
 #include "tests/support/printing.h"
 #include "tests/support/random_text.h"
@@ -38,7 +38,7 @@ void expectLikeTheExpressions(const QString& row)
 {
     ASSERT_EQ(findTimestamp(row), timestampExpression().firstMatch(row)) << qPrintable(row);
     ASSERT_EQ(findTimeOfDay(row), timeExpression().firstMatch(row)) << qPrintable(row);
-    ASSERT_EQ(hasDumpCall(row), dumpExpression().hasMatch(row))
+    ASSERT_EQ(hasDumpCall(row), dumpExpression().firstMatch(row).has_value())
         << qPrintable(row) << " = " << row.toUtf8().toHex(' ').constData();
 }
 

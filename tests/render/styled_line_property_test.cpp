@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "model/decode_text.h"
-#include "model/line_enumeration.h"
+#include "model/records/decode_text.h"
+#include "model/records/line_enumeration.h"
 #include "render/styled_line.h"
 #include "tests/support/distinct_colors.h"
 #include "tests/support/log_lines.h"
@@ -27,14 +27,14 @@ public:
           m_units(std::size_t(m_row.size()))
     {
         const HighlightColors colors = distinctColors();
-        setForeground({0, m_row.size()}, colors.severity[std::size_t(line.severity())]);
-        paintTimestamp(colors.date);
+        setForeground({0, m_row.size()}, colors[roleOf(line.severity())]);
+        paintTimestamp(colors[HighlightRole::Date]);
         setForeground({0, m_row.indexOf(u'\t')}, Color::system(SystemColor::SecondaryLabel));
         static const auto dump =
             expressionOf(QStringLiteral(R"((?:\bArray\b\s*\(|\bprint_r\s*\(|\bvar_dump\s*\())"),
                          CaseSensitivity::Insensitive);
         if (dump->hasMatch(m_row)) {
-            setForeground({0, m_row.size()}, colors.arrayDump);
+            setForeground({0, m_row.size()}, colors[HighlightRole::ArrayDump]);
         }
         for (const TextRange& match : matchesOf(query)) {
             for (qsizetype at = match.start; at < std::min(match.end(), m_row.size()); ++at) {

@@ -17,9 +17,7 @@ const Color kText = Color::system(SystemColor::Text);
 HighlightColors testColors()
 {
     const Color other = Color::rgb(0.5, 0.5, 0.5);
-    return HighlightColors{.severity = {kFatal, other, other, other, other, other, other, kText},
-                           .date = kDate,
-                           .arrayDump = kDump};
+    return HighlightColors{{kFatal, other, other, other, other, other, other, kText, kDate, kDump}};
 }
 
 AttributedRow styled(const QString& text, qint64 number = 7, const QString& query = QString())

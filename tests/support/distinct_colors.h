@@ -11,10 +11,8 @@ inline HighlightColors distinctColors()
     const auto shade = [](int i) {
         return Color::rgb(0.1 * i, 0.2, 0.3);
     };
-    return HighlightColors{.severity = {shade(0), shade(1), shade(2), shade(3), shade(4), shade(5),
-                                        shade(6), Color::system(SystemColor::Text)},
-                           .date = shade(8),
-                           .arrayDump = shade(9)};
+    return HighlightColors{{shade(0), shade(1), shade(2), shade(3), shade(4), shade(5), shade(6),
+                            Color::system(SystemColor::Text), shade(8), shade(9)}};
 }
 
 } // namespace quillon

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
+#include <QGuiApplication>
 
 #include <gtest/gtest.h>
 
@@ -9,6 +9,6 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    const QApplication application(argc, argv);
+    const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/classify.h"
-#include "model/line_builder.h"
+#include "model/records/classify.h"
+#include "model/records/line_builder.h"
 
 #include <QStringList>
 

@@ -82,6 +82,15 @@ std::optional<AccessibleNode> ScreenReader::window(qint64 processId, const QStri
     return tree.isObject() ? std::optional(nodeFrom(tree.toObject())) : std::nullopt;
 }
 
+bool ScreenReader::act(qint64 processId, const QString& role, const QString& name)
+{
+    return ask({{QStringLiteral("request"), QStringLiteral("act")},
+                {QStringLiteral("pid"), processId},
+                {QStringLiteral("role"), role},
+                {QStringLiteral("name"), name}})
+        .toBool();
+}
+
 void ScreenReader::listen()
 {
     ask({{QStringLiteral("request"), QStringLiteral("listen")}});
@@ -96,7 +105,8 @@ QList<AccessibleEvent> ScreenReader::heard(qint64 processId)
     for (const QJsonValue& event : events) {
         heard.append(
             {event[QStringLiteral("type")].toString(), event[QStringLiteral("detail")].toInt(),
-             event[QStringLiteral("name")].toString(), event[QStringLiteral("text")].toString()});
+             event[QStringLiteral("name")].toString(), event[QStringLiteral("text")].toString(),
+             event[QStringLiteral("role")].toString()});
     }
     return heard;
 }

@@ -34,6 +34,7 @@ struct AccessibleEvent {
     int detail = 0; // 1 for a state that began, 0 for one that ended; the place in a text
     QString name;   // of the element
     QString text;   // that has come or gone
+    QString role;   // of the element
 };
 
 // The element itself and all below it, in the order of the tree.
@@ -50,6 +51,10 @@ public:
 
     // The window of that title of the process, as it is now; nothing while there is none.
     [[nodiscard]] std::optional<AccessibleNode> window(qint64 processId, const QString& title);
+
+    // Does what the first element of that role and name is there for, wherever it is in the
+    // program. Whether there is one, and the program answered at once.
+    bool act(qint64 processId, const QString& role, const QString& name);
 
     // Collects the changes of state that programs announce from here on.
     void listen();

@@ -8,6 +8,9 @@ Each line of standard input is a request in JSON, each answer one line of standa
   {"request": "listen"}                              from here on, changes of states and texts
                                                      are collected
   {"request": "events", "pid": 12}                   what was collected for that program
+  {"request": "act", "pid": 12, "role": "menu item", "name": "Ouvrir"}
+                                                     does what the element is there for; true once
+                                                     the program has answered
 
 Trees end at lists and tables, which hold whole folders in a file dialog, and at the menu bar.
 """
@@ -26,6 +29,14 @@ ENDS = {
     Atspi.Role.TREE,
     Atspi.Role.TREE_TABLE,
 }
+
+KINDS = (
+    "state-changed",
+    "text-changed",
+    "text-selection-changed",
+    "text-caret-moved",
+    "property-change:accessible-name",
+)
 
 collected = []
 listeners = []
@@ -70,27 +81,45 @@ def tree(request):
     return None
 
 
+def find(node, role, name):
+    if node.get_role_name() == role and node.get_name() == name:
+        return node
+    return next(filter(None, (find(child, role, name) for child in children(node))), None)
+
+
+def act(request):
+    found = find(application(request["pid"]), request["role"], request["name"])
+    return found is not None and Atspi.Action.do_action(found, 0)
+
+
 def collect(event):
     source = event.source
     if source is not None:
         text = event.any_data if event.type.startswith("object:text-changed") else None
         collected.append(
-            (source.get_process_id(), event.type, event.detail1, source.get_name(), text)
+            (
+                source.get_process_id(),
+                event.type,
+                event.detail1,
+                source.get_name(),
+                text,
+                source.get_role_name(),
+            )
         )
 
 
 def listen(_request):
     if not listeners:
         listeners.append(Atspi.EventListener.new(collect))
-        for kind in ("state-changed", "text-changed", "text-selection-changed", "text-caret-moved"):
+        for kind in KINDS:
             listeners[0].register("object:" + kind)
     return True
 
 
 def events(request):
     return [
-        {"type": kind, "detail": detail, "name": name, "text": text}
-        for pid, kind, detail, name, text in collected
+        {"type": kind, "detail": detail, "name": name, "text": text, "role": role}
+        for pid, kind, detail, name, text, role in collected
         if pid == request["pid"]
     ]
 
@@ -102,7 +131,7 @@ def answer(_source, _condition, loop):
         return False
     request = json.loads(line)
     try:
-        result = {"tree": tree, "listen": listen, "events": events}[request["request"]](request)
+        result = {"tree": tree, "listen": listen, "events": events, "act": act}[request["request"]](request)
     except GLib.Error:
         # The program is starting or ending; whoever asks waits and asks again.
         result = None

@@ -25,7 +25,7 @@ QString propertyValue(const QByteArray& output)
 
 } // namespace
 
-Desktop::Desktop()
+Desktop::Desktop(QSize screen)
 {
     // Not the user's: a program must neither find their settings nor their bus and desktop.
     for (const char* const name : {"XDG_CURRENT_DESKTOP", "XDG_SESSION_TYPE", "WAYLAND_DISPLAY",
@@ -38,7 +38,7 @@ Desktop::Desktop()
     m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
                          m_folder.path(QStringLiteral("config")));
     m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    startScreen();
+    startScreen(screen);
     startBus();
     startWindowManager();
 }
@@ -125,7 +125,13 @@ void Desktop::resize(const QString& windowId, QSize size) const
                    QString::number(size.height())});
 }
 
-QSize Desktop::size(const QString& windowId) const
+void Desktop::move(const QString& windowId, QPoint place) const
+{
+    ask(kXdotool, {QStringLiteral("windowmove"), windowId, QString::number(place.x()),
+                   QString::number(place.y())});
+}
+
+QRect Desktop::geometry(const QString& windowId) const
 {
     const QByteArray geometry =
         ask(kXdotool, {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), windowId});
@@ -134,7 +140,28 @@ QSize Desktop::size(const QString& windowId) const
             QStringLiteral("%1=(\\d+)").arg(QLatin1StringView(name)));
         return expression.match(QString::fromLatin1(geometry)).captured(1).toInt();
     };
-    return {number("WIDTH"), number("HEIGHT")};
+    return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
+}
+
+QSize Desktop::outerSize(const QString& windowId) const
+{
+    const QStringList extents =
+        propertyValue(ask(kXprop, {QStringLiteral("-id"), windowId, QStringLiteral("-notype"),
+                                   QStringLiteral("_NET_FRAME_EXTENTS")}))
+            .split(QStringLiteral(", "));
+    if (extents.size() != 4) {
+        return QSize();
+    }
+    return size(windowId) +
+           QSize(extents[0].toInt() + extents[1].toInt(), extents[2].toInt() + extents[3].toInt());
+}
+
+void Desktop::maximise(const QString& windowId) const
+{
+    ask(kXdotool, {QStringLiteral("mousemove"), QStringLiteral("--window"), windowId,
+                   QStringLiteral("300"), QStringLiteral("-8"), QStringLiteral("click"),
+                   QStringLiteral("--repeat"), QStringLiteral("2"), QStringLiteral("--delay"),
+                   QStringLiteral("30"), QStringLiteral("1")});
 }
 
 QImage Desktop::picture(const QString& windowId) const
@@ -160,12 +187,13 @@ QString Desktop::selection(const QString& name) const
         ask(QStringLiteral("xclip"), {QStringLiteral("-o"), QStringLiteral("-selection"), name}));
 }
 
-void Desktop::startScreen()
+void Desktop::startScreen(QSize screen)
 {
     m_screen = std::make_unique<HelperProcess>(
         QStringLiteral("Xvfb"),
         QStringList{QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"), QStringLiteral("1400x1000x24"),
+                    QStringLiteral("0"),
+                    QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height()),
                     QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")},
         m_environment);
     m_environment.insert(QStringLiteral("DISPLAY"),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/app/quillon_process.h"
+#include "tests/app/print/quillon_process.h"
 #include "tests/support/helper_process.h"
 #include "tests/support/private_bus.h"
 #include "tests/support/temporary_folder.h"
@@ -9,7 +9,9 @@
 #include <QColor>
 #include <QImage>
 #include <QList>
+#include <QPoint>
 #include <QProcessEnvironment>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -27,7 +29,8 @@ struct DesktopWindow {
 // bus, none of which touches those of whoever runs the tests.
 class Desktop {
 public:
-    Desktop();
+    // The screen's size is in pixels.
+    explicit Desktop(QSize screen = QSize(1400, 1000));
 
     // What a program needs to come up here.
     [[nodiscard]] QuillonProcess::Environment variables() const;
@@ -48,7 +51,15 @@ public:
     void activate(const QString& windowId) const;
     // Asks the window manager for another size of the window's inside.
     void resize(const QString& windowId, QSize size) const;
-    [[nodiscard]] QSize size(const QString& windowId) const;
+    // Asks for another place of the window's upper left corner, its frame included.
+    void move(const QString& windowId, QPoint place) const;
+    // The place and size of the window's inside, in pixels.
+    [[nodiscard]] QRect geometry(const QString& windowId) const;
+    [[nodiscard]] QSize size(const QString& windowId) const { return geometry(windowId).size(); }
+    // The size of the window with the frame that the window manager gives it.
+    [[nodiscard]] QSize outerSize(const QString& windowId) const;
+    // Clicks its title bar twice, which makes the window as large as the screen.
+    void maximise(const QString& windowId) const;
     // What the window looks like now.
     [[nodiscard]] QImage picture(const QString& windowId) const;
     [[nodiscard]] QString clipboard() const;
@@ -57,7 +68,7 @@ public:
 
 private:
     [[nodiscard]] QString selection(const QString& name) const;
-    void startScreen();
+    void startScreen(QSize screen);
     void startBus();
     void startWindowManager();
     QByteArray ask(const QString& tool, const QStringList& arguments) const;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/helper_process.h"
 #include "tests/support/spin_until.h"
-#include "tests/window/window_test.h"
+#include "tests/window/window_fixture.h"
 
 #include <chrono>
 

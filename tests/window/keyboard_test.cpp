@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/spin_until.h"
-#include "tests/window/window_test.h"
+#include "tests/window/window_fixture.h"
 
 namespace quillon {
 namespace {
@@ -78,6 +78,46 @@ TEST_F(Keyboard, AHelpWindowThatWasClosedComesBackInTheSizeThatItHad)
     awaitWindows({kEmptyTitle});
     openHelp();
     EXPECT_TRUE(spinUntil(hasWantedSize));
+}
+
+TEST_F(Keyboard, ShortcutsOfTheMenuWorkInTheOtherWindows)
+{
+    startWithLog("a\n");
+    openHelp();
+    desktop().press(QStringLiteral("ctrl+comma"));
+    awaitActive(kPreferencesTitle);
+    desktop().press(QStringLiteral("ctrl+o"));
+    awaitActive(kOpenTitle);
+    desktop().press(QStringLiteral("Escape"));
+    awaitActive(kLogTitle);
+    desktop().activate(desktop().windowTitled(kHelpTitle));
+    awaitActive(kHelpTitle);
+    desktop().press(QStringLiteral("ctrl+f"));
+    awaitActive(kLogTitle);
+    EXPECT_TRUE(spinUntil([this] {
+        return element(mainWindow(), QStringLiteral("text"), QStringLiteral("Recherche"))
+            .is("focused");
+    }));
+}
+
+TEST_F(Keyboard, ShortcutsOfTheMenuWorkInTheOtherWindowsWhileTheMainWindowIsClosed)
+{
+    QuillonProcess& quillon = startWithLog("a\n");
+    openHelp();
+    desktop().activate(desktop().windowTitled(kLogTitle));
+    awaitActive(kLogTitle);
+    desktop().press(QStringLiteral("ctrl+w"));
+    awaitWindows({kHelpTitle});
+    awaitActive(kHelpTitle);
+    desktop().press(QStringLiteral("ctrl+o"));
+    awaitActive(kOpenTitle);
+    awaitWindows({kLogTitle, kHelpTitle, kOpenTitle});
+    desktop().press(QStringLiteral("Escape"));
+    awaitActive(kLogTitle);
+    desktop().activate(desktop().windowTitled(kHelpTitle));
+    awaitActive(kHelpTitle);
+    desktop().press(QStringLiteral("ctrl+q"));
+    EXPECT_EQ(quillon.wait(), 0);
 }
 
 TEST_F(Keyboard, CtrlCommaOpensThePreferencesOnce)

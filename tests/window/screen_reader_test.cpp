@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
-#include "tests/window/window_test.h"
+#include "tests/window/window_fixture.h"
 
 #include <algorithm>
 
@@ -222,6 +222,54 @@ TEST_F(ScreenReading, ThatAControlBecomesUsableIsAnnounced)
         return hasHeard("object:state-changed:enabled", 1, kFollowToggle) &&
                hasHeard("object:state-changed:enabled", 1, kClear);
     }));
+}
+
+// The answer would otherwise come when the dialog is closed, and the screen reader hang until then.
+TEST_F(ScreenReading, OpeningByTheAccessibleActionAnswersAtOnce)
+{
+    const QString dialog = QStringLiteral("Ouvrir un fichier de log");
+    start({}, kEmptyTitle);
+    ASSERT_TRUE(spinUntil([this] { return !window(kEmptyTitle).children.isEmpty(); }));
+    const qint64 process = running().process().processId();
+    for (const auto& [role, name] :
+         {std::pair(QStringLiteral("menu item"), QStringLiteral("Ouvrir un log…")),
+          std::pair(QStringLiteral("push button"), kOpen)}) {
+        EXPECT_TRUE(screenReader().act(process, role, name)) << qPrintable(role);
+        awaitActive(dialog);
+        desktop().press(QStringLiteral("Escape"));
+        awaitActive(kEmptyTitle);
+    }
+}
+
+TEST_F(ScreenReading, TheCountsOfASearchAreToldByTheStatusBar)
+{
+    startWithLog("one\ntwo\n");
+    awaitRows(QStringLiteral("1\tone\n2\ttwo\n"));
+    desktop().press(QStringLiteral("ctrl+f"));
+    desktop().type(QStringLiteral("tw"));
+    EXPECT_TRUE(spinUntil([this] {
+        const auto heard = screenReader().heard(running().process().processId());
+        return std::any_of(heard.begin(), heard.end(), [](const AccessibleEvent& event) {
+            return event.type == QLatin1StringView("object:property-change:accessible-name") &&
+                   event.role == QLatin1StringView("status bar") &&
+                   event.name == QStringLiteral("Lignes: 2 • Affichées: 1");
+        });
+    }));
+}
+
+TEST_F(ScreenReading, EachWindowSaysThatItIsOne)
+{
+    startWithLog("a\n");
+    awaitRows(QStringLiteral("1\ta\n"));
+    const QString role = mainWindow().role;
+    desktop().press(QStringLiteral("ctrl+comma"));
+    awaitActive(kPreferencesTitle);
+    desktop().press(QStringLiteral("F1"));
+    awaitActive(kHelpTitle);
+    EXPECT_EQ(window(kPreferencesTitle).role, role);
+    EXPECT_EQ(window(kHelpTitle).role, role);
+    EXPECT_TRUE(role == QLatin1StringView("window") || role == QLatin1StringView("frame"))
+        << qPrintable(role);
 }
 
 TEST_F(ScreenReading, TheWindowCannotBeMadeSmallerThanItsContentsMinimum)

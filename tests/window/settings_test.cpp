@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/spin_until.h"
-#include "tests/window/window_test.h"
+#include "tests/window/window_fixture.h"
 
 namespace quillon {
 namespace {

@@ -1,0 +1,15 @@
+# SPDX-License-Identifier: MIT
+# Completion of quillon's command line for fish; file names are fish's own.
+complete -c quillon -s f -l follow -d 'montre aussi les lignes qui s’ajoutent'
+complete -c quillon -s p -l print -d 'écrit les lignes sur la sortie standard'
+complete -c quillon -s h -l help -d 'affiche l’aide'
+complete -c quillon -l version -d 'affiche la version'
+complete -c quillon -s q -l query -x -d 'seulement les lignes où se trouve le texte'
+complete -c quillon -s e -l only-errors -d 'seulement les lignes fatal et error'
+complete -c quillon -l hide -x -a '(__fish_append , deprecated warning notice)' -d 'sans ces niveaux'
+complete -c quillon -s n -l lines -x -d 'seulement les dernières lignes'
+complete -c quillon -s c -l count -d 'le nombre de lignes à chaque niveau'
+complete -c quillon -l no-number -d 'sans le numéro des lignes'
+complete -c quillon -l color -f -a 'auto always never' -d 'en couleurs'
+complete -c quillon -l json -d 'un objet JSON par ligne'
+complete -c quillon -l no-runs -d 'avec --json, sans les couleurs'

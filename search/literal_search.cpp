@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "search/literal_search.h"
+
+#include "platform/utf16_block.h"
+#include "search/case_folding.h"
+#include "search/case_lowering.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+bool isAsciiText(const QString& text)
+{
+    return isAscii(reinterpret_cast<const char16_t*>(text.utf16()), text.size());
+}
+
+} // namespace
+
+LiteralSearch::LiteralSearch(const QString& literal) : m_lowerCased(lowerCased(literal))
+{
+    if (isAsciiText(m_lowerCased)) {
+        m_ascii.emplace(QLatin1StringView(m_lowerCased.toLatin1()));
+    }
+}
+
+// The characters that lower case makes ASCII are among those that folding does.
+bool LiteralSearch::canCompareLetters(const QString& text) const
+{
+    return m_ascii && !hasCharacterFoldingToAscii(text);
+}
+
+bool LiteralSearch::isIn(const QString& text) const
+{
+    if (canCompareLetters(text)) {
+        return m_ascii->find(text) >= 0;
+    }
+    const bool isOutOfReach = !m_ascii && isAsciiText(text);
+    return !isOutOfReach && lowerCased(text).contains(m_lowerCased);
+}
+
+std::vector<TextRange> LiteralSearch::rangesIn(const QString& text) const
+{
+    const bool isLetters = canCompareLetters(text);
+    const QString lowered = isLetters ? QString() : lowerCased(text);
+    const auto find = [&](qsizetype from) {
+        return isLetters ? m_ascii->find(text, from) : lowered.indexOf(m_lowerCased, from);
+    };
+    std::vector<TextRange> ranges;
+    for (qsizetype at = find(0); at >= 0; at = find(at + m_lowerCased.size())) {
+        const qsizetype end = std::min(at + m_lowerCased.size(), text.size());
+        if (at < end) {
+            ranges.push_back(TextRange{at, end - at});
+        }
+    }
+    return ranges;
+}
+
+} // namespace quillon

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+// What the running program asks of the system, as strace sees it: it writes its two files, and
+// nothing else; it speaks to local sockets only; it starts no program.
+#include "tests/support/listening_socket.h"
+#include "tests/support/printing.h"
+#include "tests/support/spin_until.h"
+#include "tests/window/window_fixture.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace quillon {
+namespace {
+
+const QString kTraced = QStringLiteral(
+    "trace=execve,execveat,socket,open,openat,openat2,creat,rename,renameat,renameat2,unlink,"
+    "unlinkat,mkdir,mkdirat,truncate,link,linkat,symlink,symlinkat,chmod,fchmodat");
+
+class LeastPrivilege : public WindowTest {
+protected:
+    void SetUp() override
+    {
+        const QStringList probe{QStringLiteral("-o"), QStringLiteral("/dev/null"),
+                                QStringLiteral("true")};
+        if (QProcess::execute(QStringLiteral("strace"), probe) != 0) {
+            GTEST_SKIP() << "strace may not look at processes here";
+        }
+    }
+
+    QuillonProcess& startTraced(const QStringList& arguments, const QString& title,
+                                QuillonProcess::Environment more = {})
+    {
+        more.append({QStringLiteral("HOME"), folder().path(QString())});
+        // It cannot look for leaks in a process that is looked at.
+        more.append({QStringLiteral("LSAN_OPTIONS"), QStringLiteral("detect_leaks=0")});
+        more.append({QStringLiteral("ASAN_OPTIONS"),
+                     QStringLiteral("detect_leaks=0:strict_string_checks=0")});
+        QuillonProcess& traced = program({}, more);
+        traced.process().setProgram(QStringLiteral("strace"));
+        traced.process().setArguments(
+            QStringList{QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-s"),
+                        QStringLiteral("4096"), QStringLiteral("-e"), kTraced, QStringLiteral("-o"),
+                        tracePath(), QStringLiteral(QUILLON_PROGRAM)} +
+            arguments);
+        traced.start();
+        awaitActive(title);
+        return traced;
+    }
+    [[nodiscard]] QString tracePath() const { return folder().path(QStringLiteral("trace")); }
+    // The calls that were made, and that a pattern is found in.
+    [[nodiscard]] QStringList calls(const QString& pattern) const
+    {
+        QFile file(tracePath());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll()).split(u'\n').filter(QRegularExpression(pattern));
+    }
+    // Those that change something in the file system.
+    [[nodiscard]] QStringList changes() const
+    {
+        return calls(QStringLiteral("O_WRONLY|O_RDWR|O_CREAT|O_TRUNC| (creat|rename|unlink|mkdir|"
+                                    "truncate|link|symlink|f?chmod)\\w*\\("));
+    }
+    [[nodiscard]] QStringList strangeChanges(const QuillonProcess& quillon) const
+    {
+        const QStringList own{quillon.configuration().path(QString()),
+                              QStringLiteral("\"/dev/null\""),
+                              // The toolkit makes sure that the folder of its sockets is there.
+                              QStringLiteral(" = -1 EEXIST")};
+        QStringList strange;
+        for (const QString& call : changes()) {
+            const bool isOwn = std::any_of(
+                own.begin(), own.end(), [&](const QString& text) { return call.contains(text); });
+            if (!isOwn) {
+                strange.append(call);
+            }
+        }
+        return strange;
+    }
+    void expectNothingStrange(const QuillonProcess& quillon) const
+    {
+        EXPECT_EQ(strangeChanges(quillon), QStringList());
+        EXPECT_EQ(calls(QStringLiteral("socket\\((?!AF_UNIX)")), QStringList());
+        // The program itself.
+        EXPECT_EQ(calls(QStringLiteral("execve")).size(), 1);
+    }
+};
+
+TEST_F(LeastPrivilege, AWindowsLifeWritesItsOwnFilesAndNothingElse)
+{
+    const QString log = folder().write(kLog, "PHP Warning: a\n");
+    QuillonProcess& quillon = startTraced({QStringLiteral("--follow"), log}, kLogTitle);
+    folder().append(kLog, "b\n");
+    desktop().press(QStringLiteral("ctrl+comma"));
+    awaitActive(kPreferencesTitle);
+    closeByWindowManager(kPreferencesTitle);
+    awaitActive(kLogTitle);
+    desktop().press(QStringLiteral("ctrl+q"));
+    EXPECT_EQ(quillon.wait(), 0);
+    expectNothingStrange(quillon);
+    // It was looked at.
+    EXPECT_FALSE(calls(QStringLiteral("O_RDONLY.*")).isEmpty());
+    EXPECT_FALSE(changes().isEmpty());
+}
+
+TEST_F(LeastPrivilege, WithoutASessionBusNoneIsStarted)
+{
+    QuillonProcess& quillon =
+        startTraced({}, kEmptyTitle,
+                    {{QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString()},
+                     {QStringLiteral("XDG_RUNTIME_DIR"), folder().path(QStringLiteral("none"))}});
+    desktop().press(QStringLiteral("ctrl+q"));
+    EXPECT_EQ(quillon.wait(), 0);
+    EXPECT_EQ(calls(QStringLiteral("execve")).size(), 1);
+}
+
+// The bus library's own patience is 25 seconds, and it was asked more than once.
+TEST_F(WindowTest, OpensWhileTheSessionBusIsSilent)
+{
+    const ListeningSocket silent;
+    QuillonProcess& quillon =
+        program({folder().write(kLog, "a\n")},
+                {{QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                  QStringLiteral("unix:path=") + QFile::decodeName(silent.name())}});
+    quillon.start();
+    EXPECT_TRUE(
+        spinUntil([] { return desktop().activeTitle() == kLogTitle; }, std::chrono::seconds(20)));
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "ui/layout/log_text_layout.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+// Rows kept in detail: more than a large screen shows.
+constexpr std::size_t kMaximumCachedRows = 256;
+// UTF-16 units from which on a row is laid out in detail at once instead of being measured first
+// and laid out when it is shown: for a line of two million, that is half of the work.
+constexpr qsizetype kLongRow = 65'536;
+// Texts without a row that is known before the known ones are given up: as many as keys are typed
+// into the search field, and taken back, without a row with such characters being found.
+constexpr int kMaximumForeignTexts = 32;
+
+} // namespace
+
+LogTextLayout::LogTextLayout() = default;
+LogTextLayout::~LogTextLayout() = default;
+
+bool LogTextLayout::layOut(const AttributedString& text,
+                           std::shared_ptr<const MonospaceMetrics> metrics,
+                           std::optional<Fixed> lineWidth)
+{
+    const bool sameLines = m_metrics == metrics && m_lineWidth == lineWidth;
+    const bool sameRows = text.isExtensionOf(m_text);
+    const qsizetype firstRow = sameLines && sameRows ? m_text.rows().size() : 0;
+    const bool isOther = !sameLines || !sameRows || text.rows().size() > firstRow;
+    if (m_metrics != metrics) {
+        forgetFont();
+    }
+    if (!sameRows) {
+        keepShapedRows();
+        m_mixedRows.clear();
+        m_measures.clear();
+        m_measures.reserve(static_cast<std::size_t>(text.rows().size()));
+    }
+    if (!sameLines) {
+        m_metrics = std::move(metrics);
+        m_lineWidth = lineWidth;
+        m_engine = std::make_unique<RowEngine>(*m_metrics, m_opportunities, m_lineWidth);
+    }
+    m_text = text;
+    if (firstRow == 0) {
+        m_cachedRows.clear();
+        m_width = 0;
+    }
+    measureRowsFrom(firstRow);
+    if (!sameRows) {
+        dropForeignRows();
+    }
+    return isOther;
+}
+
+void LogTextLayout::forgetFont()
+{
+    m_knownRows.clear();
+    for (const std::size_t row : m_mixedRows) {
+        m_measures[row] = RowMeasure();
+    }
+}
+
+void LogTextLayout::keepShapedRows()
+{
+    for (const std::size_t index : m_mixedRows) {
+        if (m_measures[index].isShaped) {
+            const AttributedRow& row = m_text.rows()[static_cast<qsizetype>(index)];
+            m_knownRows.insert(row.text().constData(),
+                               KnownRow{row.text(), row.prefixLength(), m_measures[index]});
+        }
+    }
+}
+
+// What another log had need not be kept.
+void LogTextLayout::dropForeignRows()
+{
+    m_textsWithoutKnownRow = m_hasKnownRow ? 0 : m_textsWithoutKnownRow + 1;
+    m_hasKnownRow = false;
+    if (m_textsWithoutKnownRow > kMaximumForeignTexts) {
+        m_knownRows.clear();
+    }
+}
+
+void LogTextLayout::measureRowsFrom(qsizetype firstRow)
+{
+    const auto& rows = m_text.rows();
+    const auto count = static_cast<std::size_t>(rows.size());
+    m_lineEnds.resize(count);
+    auto row = static_cast<std::size_t>(firstRow);
+    quint32 lines = row == 0 ? 0 : m_lineEnds[row - 1];
+    for (; row < count; ++row) {
+        if (row == m_measures.size()) {
+            m_measures.push_back(initialMeasure(rows[static_cast<qsizetype>(row)]));
+            if (m_measures.back().range == CharacterRange::Any) {
+                m_mixedRows.push_back(row);
+            }
+        }
+        const auto known = m_engine->measurer.knownExtent(m_measures[row]);
+        const RowExtent extent = known ? *known : extentOf(row);
+        lines += static_cast<quint32>(extent.lineCount);
+        m_lineEnds[row] = lines;
+        m_width = std::max(m_width, extent.width);
+    }
+}
+
+RowMeasure LogTextLayout::initialMeasure(const AttributedRow& row)
+{
+    RowMeasure measure = m_engine->measurer.initialMeasure(row);
+    if (measure.range != CharacterRange::Any) {
+        return measure;
+    }
+    const auto known = m_knownRows.constFind(row.text().constData());
+    if (known == m_knownRows.constEnd() || known->prefixLength != row.prefixLength()) {
+        return measure;
+    }
+    m_hasKnownRow = true;
+    return known->measure;
+}
+
+RowExtent LogTextLayout::extentOf(std::size_t index)
+{
+    const auto position = static_cast<qsizetype>(index);
+    const AttributedRow& row = m_text.rows()[position];
+    if (row.text().size() > kLongRow) {
+        // It will be looked at soon, being most of the log.
+        const RowLayout& layout = rowLayout(position);
+        return m_engine->layouter.extentOf(layout);
+    }
+    return m_engine->measurer.measure(row, m_measures[index]);
+}
+
+qint64 LogTextLayout::lineCount() const
+{
+    return firstLineOf(m_text.rows().size()) + 1;
+}
+
+qint64 LogTextLayout::firstLineOf(qsizetype row) const
+{
+    return row == 0 ? 0 : m_lineEnds[static_cast<std::size_t>(row) - 1];
+}
+
+VisualLine LogTextLayout::visualLine(qint64 line) const
+{
+    const auto end = std::upper_bound(m_lineEnds.begin(), m_lineEnds.end(), line);
+    const qsizetype row = end - m_lineEnds.begin();
+    return VisualLine{row, line - firstLineOf(row)};
+}
+
+LogTextLayout::CachedRow& LogTextLayout::cachedRow(qsizetype row) const
+{
+    const auto cached = std::find_if(m_cachedRows.begin(), m_cachedRows.end(),
+                                     [row](const CachedRow& entry) { return entry.row == row; });
+    if (cached != m_cachedRows.end()) {
+        m_cachedRows.splice(m_cachedRows.begin(), m_cachedRows, cached);
+        return m_cachedRows.front();
+    }
+    m_cachedRows.push_front(
+        CachedRow{row, m_engine->layouter.layOut(m_text.rows()[row]), std::nullopt});
+    if (m_cachedRows.size() > kMaximumCachedRows) {
+        m_cachedRows.pop_back();
+    }
+    return m_cachedRows.front();
+}
+
+const RowLayout& LogTextLayout::rowLayout(qsizetype row) const
+{
+    return cachedRow(row).layout;
+}
+
+const std::vector<AttributeRun>& LogTextLayout::rowRuns(qsizetype row) const
+{
+    CachedRow& cached = cachedRow(row);
+    if (!cached.runs) {
+        cached.runs = m_text.rows()[row].runs();
+    }
+    return *cached.runs;
+}
+
+} // namespace quillon

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "render/attributed_string.h"
+#include "ui/layout/break_opportunities.h"
+#include "ui/layout/monospace_metrics.h"
+#include "ui/layout/row_engine.h"
+#include "ui/layout/text_position.h"
+
+#include <QHash>
+
+#include <list>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+// A visual line, counted from the top of the text, as a line of its row.
+struct VisualLine {
+    qsizetype row = 0;
+    qsizetype lineInRow = 0;
+};
+
+// The layout of a whole text: on which visual line each row begins, exactly and for all rows, while
+// only rows that somebody looks at are laid out in detail. All lines have the same height.
+//
+// A text that extends the one before is laid out from its first new row on; after a change of the
+// line's width or the font only those rows are looked at again whose line count does not follow
+// from what is known of them; after any other change every row is, except that rows which need
+// shaping are remembered by their text. What is known of a row whose characters are of many widths
+// holds for one font only.
+class LogTextLayout {
+public:
+    LogTextLayout();
+    ~LogTextLayout();
+    LogTextLayout(const LogTextLayout&) = delete;
+    LogTextLayout& operator=(const LogTextLayout&) = delete;
+
+    // Lays the text out: with these metrics, and with lines broken at `lineWidth`, if any. Nothing
+    // is done twice that these three leave as it was. Whether any of them is another than before.
+    bool layOut(const AttributedString& text, std::shared_ptr<const MonospaceMetrics> metrics,
+                std::optional<Fixed> lineWidth);
+
+    [[nodiscard]] const AttributedString& text() const { return m_text; }
+    [[nodiscard]] const MonospaceMetrics& metrics() const { return *m_metrics; }
+    [[nodiscard]] const RowLayouter& layouter() const { return m_engine->layouter; }
+    [[nodiscard]] const RowPlaces& places() const { return m_engine->places; }
+
+    // Visual lines of all rows, and the empty one after the last row's line feed.
+    [[nodiscard]] qint64 lineCount() const;
+    // The width of the widest row where lines are not broken, else 0.
+    [[nodiscard]] Fixed width() const { return m_width; }
+
+    // The visual line on which a row begins; for the row after the last, the empty last line.
+    [[nodiscard]] qint64 firstLineOf(qsizetype row) const;
+    // The row that a visual line belongs to, 0 ≤ line < lineCount() − 1.
+    [[nodiscard]] VisualLine visualLine(qint64 line) const;
+
+    // A row in detail, and its style; kept for a while. The references hold until 255 other rows
+    // have been asked for, or layOut() is called.
+    [[nodiscard]] const RowLayout& rowLayout(qsizetype row) const;
+    [[nodiscard]] const std::vector<AttributeRun>& rowRuns(qsizetype row) const;
+
+private:
+    struct KnownRow {
+        QString text;           // kept so that its address stays its own
+        qsizetype prefixLength; // the text begins farther right after a longer number
+        RowMeasure measure;
+    };
+    struct CachedRow {
+        qsizetype row;
+        RowLayout layout;
+        std::optional<std::vector<AttributeRun>> runs;
+    };
+
+    void forgetFont();
+    void keepShapedRows();
+    void dropForeignRows();
+    void measureRowsFrom(qsizetype firstRow);
+    [[nodiscard]] RowMeasure initialMeasure(const AttributedRow& row);
+    [[nodiscard]] RowExtent extentOf(std::size_t row);
+    [[nodiscard]] CachedRow& cachedRow(qsizetype row) const;
+
+    BreakOpportunities m_opportunities;
+    AttributedString m_text;
+    std::shared_ptr<const MonospaceMetrics> m_metrics;
+    std::optional<Fixed> m_lineWidth;
+    std::unique_ptr<RowEngine> m_engine;
+    // For each row the number of visual lines up to its end.
+    std::vector<quint32> m_lineEnds;
+    // For each row what has been found out about it, for as long as the text stays.
+    std::vector<RowMeasure> m_measures;
+    // The rows of range Any, in order: what is known of them holds for one font.
+    std::vector<std::size_t> m_mixedRows;
+    Fixed m_width = 0;
+    // Rows of earlier texts that need shaping, by where their text stands in memory: a search
+    // leaves rows out and lets them in again.
+    QHash<const QChar*, KnownRow> m_knownRows;
+    bool m_hasKnownRow = false;     // in the text at hand
+    int m_textsWithoutKnownRow = 0; // one after the other
+    // Most recently used first.
+    mutable std::list<CachedRow> m_cachedRows;
+};
+
+} // namespace quillon
