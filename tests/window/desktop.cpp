@@ -53,9 +53,12 @@ QuillonProcess::Environment Desktop::variables() const
         {QStringLiteral("QT_QPA_PLATFORMTHEME"), QString()},
     };
     // The keyboard library copies names out of the window system's messages by their length, which
-    // a check of whole strings takes for reading past their end.
+    // a check of whole strings takes for reading past their end. Its leaks are told apart by who
+    // asked for the memory, some calls up, through libraries without frame pointers.
     const QString asan = QStringLiteral("ASAN_OPTIONS");
-    variables.append({asan, m_environment.value(asan) + QStringLiteral(":strict_string_checks=0")});
+    variables.append({asan, m_environment.value(asan) + QStringLiteral(":strict_string_checks=0"
+                                                                       ":fast_unwind_on_malloc=0"
+                                                                       ":malloc_context_size=5")});
     for (const char* const name : {"DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR"}) {
         const QString variable = QString::fromLatin1(name);
         variables.append({variable, m_environment.value(variable)});

@@ -2,6 +2,7 @@
 #include "tests/support/spin_until.h"
 #include "tests/window/window_fixture.h"
 
+#include <chrono>
 #include <cmath>
 
 namespace quillon {
@@ -16,12 +17,26 @@ protected:
     {
         QuillonProcess& before = running();
         desktop().press(QStringLiteral("ctrl+q"));
-        ASSERT_EQ(before.wait(), 0);
+        ASSERT_EQ(before.wait(), 0) << before.errors().toStdString();
         program({}, {{kStateFolder, before.configuration().path(QString())}}).start();
         awaitActive(kEmptyTitle);
     }
     [[nodiscard]] static QString mainWindowId() { return desktop().windowTitled(kEmptyTitle); }
     [[nodiscard]] static QRect place() { return desktop().geometry(mainWindowId()); }
+    [[nodiscard]] static bool isMaximised() { return place().width() >= 1390; }
+    // A double click is lost when it comes while the window manager moves the focus.
+    [[nodiscard]] static bool toggleMaximised()
+    {
+        const bool before = isMaximised();
+        const auto isToggled = [before] {
+            return isMaximised() != before;
+        };
+        for (int attempt = 0; attempt < 10 && !isToggled(); ++attempt) {
+            desktop().maximise(mainWindowId());
+            spinUntil(isToggled, std::chrono::seconds(2));
+        }
+        return isToggled();
+    }
 };
 
 TEST_F(Placement, TheWindowComesBackInTheSizeAndAtThePlaceThatItWasClosedWith)
@@ -39,11 +54,10 @@ TEST_F(Placement, TheWindowComesBackInTheSizeAndAtThePlaceThatItWasClosedWith)
 TEST_F(Placement, AMaximisedWindowComesBackMaximised)
 {
     start({}, kEmptyTitle);
-    desktop().maximise(mainWindowId());
-    ASSERT_TRUE(spinUntil([] { return place().width() >= 1390; }));
+    ASSERT_TRUE(toggleMaximised());
     restart();
-    EXPECT_TRUE(spinUntil([] { return place().width() >= 1390; }));
-    desktop().maximise(mainWindowId());
+    EXPECT_TRUE(spinUntil([] { return isMaximised(); }));
+    ASSERT_TRUE(toggleMaximised());
     EXPECT_TRUE(spinUntil([] { return place().size().width() == 1080; }));
 }
 
