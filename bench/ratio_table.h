@@ -35,6 +35,7 @@ private:
 // The comparisons, by what they need.
 void runModelRatios(RatioTable& table);
 void runViewRatios(RatioTable& table);
+void runScriptRatios(RatioTable& table);
 void runProcessRatios(RatioTable& table);
 void runPipeRatios(RatioTable& table);
 

@@ -59,7 +59,9 @@ void LogTextLayout::forgetFont()
 {
     m_knownRows.clear();
     for (const std::size_t row : m_mixedRows) {
-        m_measures[row] = RowMeasure();
+        RowMeasure unknown;
+        unknown.asciiLength = m_measures[row].asciiLength;
+        m_measures[row] = unknown;
     }
 }
 

@@ -55,6 +55,8 @@ struct RowMeasure {
     CharacterRange range = CharacterRange::Any;
     // Whether it takes a text layout to look at the row again; known once one has been made.
     bool isShaped = false;
+    // Of a row of range Any: UTF-16 units at its beginning that are known to be ASCII.
+    quint16 asciiLength = 0;
     KnownLineCounts lineCounts;
 };
 

@@ -49,6 +49,10 @@ RowMeasure RowMeasurer::initialMeasure(const AttributedRow& row) const
     if (measure.range != CharacterRange::Any) {
         measure.width =
             static_cast<quint32>(std::min(indentOf(row) + row.text().size(), kWidestNoted));
+    } else {
+        constexpr qsizetype kLongest = std::numeric_limits<quint16>::max();
+        measure.asciiLength = static_cast<quint16>(
+            asciiBlocks(QStringView(row.text()).first(std::min(row.text().size(), kLongest))));
     }
     return measure;
 }
@@ -62,8 +66,9 @@ RowExtent RowMeasurer::measure(const AttributedRow& row, RowMeasure& measure) co
         indentOf(row) * m_metrics.columnAdvance() < *m_lineWidth) {
         return measureUniform(row, measure);
     }
-    return m_metrics.needsShaping(row.text()) ? measureShaped(row, measure)
-                                              : measureMixed(row, measure);
+    return m_metrics.needsShaping(QStringView(row.text()).sliced(measure.asciiLength))
+               ? measureShaped(row, measure)
+               : measureMixed(row, measure);
 }
 
 RowExtent RowMeasurer::measureUniform(const AttributedRow& row, RowMeasure& measure) const
@@ -131,7 +136,7 @@ RowExtent RowMeasurer::measureShaped(const AttributedRow& row, RowMeasure& measu
     if (!hasRoom || row.length() > RowLayouter::kPieceLength) {
         return measureByLayout(row, measure);
     }
-    const auto lines = m_words.measure(text, indent);
+    const auto lines = m_words.measure(text, indent, measure.asciiLength);
     if (!lines) {
         return measureByLayout(row, measure);
     }
@@ -139,8 +144,8 @@ RowExtent RowMeasurer::measureShaped(const AttributedRow& row, RowMeasure& measu
         noteWidth(lines->oneLine, measure);
         return RowExtent{1, lines->oneLine};
     }
-    note(row, linesOf(text, {static_cast<int>(lines->count), lines->widest, lines->oneLine}),
-         measure);
+    const ShapedMeasure shaped{static_cast<int>(lines->count), lines->widest, lines->oneLine};
+    noteLines(row, linesOf(shaped, text.endsWith(u' ')), measure);
     return RowExtent{lines->count, 0};
 }
 
@@ -164,21 +169,21 @@ RowExtent RowMeasurer::measureByLayout(const AttributedRow& row, RowMeasure& mea
     if (!m_lineWidth) {
         return RowExtent{1, shaped.widestLine};
     }
-    note(row, linesOf(text, shaped), measure);
+    note(row, linesOf(shaped, text.endsWith(u' ') || text.contains(kSoftHyphen)), measure);
     return RowExtent{shaped.lineCount, 0};
 }
 
 // A narrower line is broken at the same places as long as each line fits on it; and a row that
 // takes two lines takes two until it fits on one. (Spaces at its end may hang, so that it fits
 // sooner, and a soft hyphen takes room only where a line ends in it.)
-RowMeasurer::MixedLines RowMeasurer::linesOf(const QString& text, const ShapedMeasure& shaped) const
+RowMeasurer::MixedLines RowMeasurer::linesOf(const ShapedMeasure& shaped, bool mayFitSooner) const
 {
     const Fixed column = m_metrics.columnAdvance();
     const qsizetype from = (shaped.widestLine + column / 2 + column - 1) / column;
     qsizetype to = m_breaker.columns();
     if (shaped.lineCount == 1) {
         to = KnownLineCounts::kWidest;
-    } else if (shaped.lineCount == 2 && !text.endsWith(u' ') && !text.contains(kSoftHyphen)) {
+    } else if (shaped.lineCount == 2 && !mayFitSooner) {
         to = (shaped.oneLine - column - column / 2) / column;
     }
     return MixedLines{shaped.lineCount, from, to};
@@ -194,19 +199,26 @@ RowExtent RowMeasurer::measureInPieces(const AttributedRow& row, RowMeasure& mea
     return extent;
 }
 
-// Between the widths that were noted before and these, the row takes as many lines too. Of tabs,
-// which hang past the width in another way than spaces, nothing is concluded: only the width at
-// hand is noted.
+// Of tabs, which hang past the width in another way than spaces, nothing is concluded: only the
+// width at hand is noted.
 void RowMeasurer::note(const AttributedRow& row, const MixedLines& lines, RowMeasure& measure) const
+{
+    if (!row.text().contains(u'\t')) {
+        noteLines(row, lines, measure);
+    } else if (const qsizetype columns = m_breaker.columns();
+               m_isNotable && columns > indentOf(row)) {
+        measure.lineCounts = KnownLineCounts();
+        measure.lineCounts.add(columns, columns, lines.count);
+    }
+}
+
+// Between the widths that were noted before and these, the row takes as many lines too.
+void RowMeasurer::noteLines(const AttributedRow& row, const MixedLines& lines,
+                            RowMeasure& measure) const
 {
     const qsizetype columns = m_breaker.columns();
     const qsizetype indent = indentOf(row);
     if (!m_isNotable || columns <= indent) {
-        return;
-    }
-    if (row.text().contains(u'\t')) {
-        measure.lineCounts = KnownLineCounts();
-        measure.lineCounts.add(columns, columns, lines.count);
         return;
     }
     measure.lineCounts.add(std::clamp(lines.from, indent + 1, columns), std::max(lines.to, columns),

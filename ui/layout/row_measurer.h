@@ -64,8 +64,10 @@ private:
     [[nodiscard]] RowExtent measureShaped(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] RowExtent measureByLayout(const AttributedRow& row, RowMeasure& measure) const;
     [[nodiscard]] RowExtent measureInPieces(const AttributedRow& row, RowMeasure& measure) const;
-    [[nodiscard]] MixedLines linesOf(const QString& text, const ShapedMeasure& shaped) const;
+    [[nodiscard]] MixedLines linesOf(const ShapedMeasure& shaped, bool mayFitSooner) const;
     void note(const AttributedRow& row, const MixedLines& lines, RowMeasure& measure) const;
+    // Of a row without tabs.
+    void noteLines(const AttributedRow& row, const MixedLines& lines, RowMeasure& measure) const;
 
     const MonospaceMetrics& m_metrics;
     const LineBreaker& m_breaker;

@@ -53,7 +53,7 @@ public:
     }
 
     // False where it takes a text layout.
-    bool take(QStringView text);
+    bool take(QStringView text, qsizetype asciiLength);
     [[nodiscard]] const WordLines& lines() const { return m_lines; }
     // What the ink of the text's last character adds to its width.
     [[nodiscard]] Fixed lastInk(QStringView text) const;
@@ -74,13 +74,13 @@ private:
     WordLines m_lines;
 };
 
-bool WordLineBreaker::Walk::take(QStringView text)
+bool WordLineBreaker::Walk::take(QStringView text, qsizetype asciiLength)
 {
     WordWidths& words = m_metrics.words();
     QChar::Script script = words.scriptAtStart(text);
     for (qsizetype at = 0; at < text.size();) {
         if (isPlain(script)) {
-            const qsizetype unusual = firstUnusual(text, at);
+            const qsizetype unusual = firstUnusual(text, std::max(at, asciiLength));
             const qsizetype space = text.first(unusual).lastIndexOf(u' ');
             const qsizetype end = unusual == text.size() ? unusual : std::max(at, space + 1);
             if (end > at && !addPlain(text.sliced(at, end - at))) {
@@ -183,10 +183,11 @@ WordLineBreaker::WordLineBreaker(const MonospaceMetrics& metrics,
 {
 }
 
-std::optional<WordLines> WordLineBreaker::measure(QStringView text, Fixed indent) const
+std::optional<WordLines> WordLineBreaker::measure(QStringView text, Fixed indent,
+                                                  qsizetype asciiLength) const
 {
     Walk walk(*this, indent);
-    if (!walk.take(text) || (!m_lineWidth && text.endsWith(u' '))) {
+    if (!walk.take(text, asciiLength) || (!m_lineWidth && text.endsWith(u' '))) {
         return std::nullopt;
     }
     WordLines lines = walk.lines();

@@ -36,8 +36,9 @@ public:
     // that it may also begin on the next line). None where it takes a text layout to tell: a word
     // is wider than a line, reaches to its end by a hair, or has a control character, tab, soft
     // hyphen or other space than U+0020 in it; or lines are not broken, and the text ends in a
-    // space.
-    [[nodiscard]] std::optional<WordLines> measure(QStringView text, Fixed indent) const;
+    // space. The text's first `asciiLength` UTF-16 units are known to be ASCII.
+    [[nodiscard]] std::optional<WordLines> measure(QStringView text, Fixed indent,
+                                                   qsizetype asciiLength = 0) const;
 
 private:
     class Walk;

@@ -55,7 +55,9 @@ QChar::Script WordWidths::scriptAtStart(QStringView text)
     for (qsizetype at = 0; at < text.size(); ++at) {
         if (const char32_t character = characterAt(text, at); hasScript(character)) {
             const QChar::Script script = QChar::script(character);
-            m_letters.emplace(script, QString::fromUcs4(&character, 1));
+            if (!m_letters.contains(script)) {
+                m_letters.emplace(script, QString::fromUcs4(&character, 1));
+            }
             return script;
         }
     }
