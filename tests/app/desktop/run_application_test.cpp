@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/command_line/command_line.h"
+#include "app/desktop/quillon_app.h"
 #include "app/desktop/run_application.h"
+#include "model/log_view_model.h"
 #include "tests/support/temporary_folder.h"
 #include "ui/log_text/log_text_view.h"
 
@@ -16,7 +18,11 @@
 namespace quillon {
 namespace {
 
-// Sees what the log's view is asked to paint first, and ends the program then.
+// What is due after a start would be seen by then: a change is shown once it is 60 ms old.
+constexpr std::chrono::milliseconds kAfterwards{400};
+
+// Sees what the log's view is asked to paint first, and what comes after that, and then ends the
+// program.
 class FirstPicture : public QObject {
 public:
     using QObject::QObject;
@@ -25,18 +31,25 @@ public:
     {
         const auto* const view = qobject_cast<LogTextView*>(watched->parent());
         if (event->type() == QEvent::Paint && view != nullptr && watched == view->viewport()) {
-            if (!s_text) {
+            if (++s_pictures == 1) {
                 s_text = view->attributedText().string();
                 s_isAtEnd =
                     view->verticalScrollBar()->value() == view->verticalScrollBar()->maximum();
+                m_output = sharedLogViewModel().attributedOutput.observeWillChange(
+                    [] { ++s_laterOutputs; });
+                QTimer::singleShot(kAfterwards, qApp, &QCoreApplication::quit);
             }
-            QCoreApplication::quit();
         }
         return QObject::eventFilter(watched, event);
     }
 
     static inline std::optional<QString> s_text;
     static inline bool s_isAtEnd = false;
+    static inline int s_pictures = 0;
+    static inline int s_laterOutputs = 0;
+
+private:
+    Subscription m_output;
 };
 
 // The application object is made within the function under test, and this as soon as it is there.
@@ -48,7 +61,7 @@ void watchForFirstPicture()
 }
 Q_COREAPP_STARTUP_FUNCTION(watchForFirstPicture)
 
-TEST(RunApplication, TheWindowsFirstPictureIsThatOfTheEndOfTheLog)
+TEST(RunApplication, TheWindowsFirstPictureIsThatOfTheEndOfTheLogAndTheOnlyOne)
 {
     const TemporaryFolder folder;
     // Nobody's settings and nobody's bus.
@@ -67,6 +80,8 @@ TEST(RunApplication, TheWindowsFirstPictureIsThatOfTheEndOfTheLog)
     ASSERT_TRUE(FirstPicture::s_text.has_value());
     EXPECT_TRUE(FirstPicture::s_text->endsWith(QStringLiteral("300\tPHP Notice:  a\n")));
     EXPECT_TRUE(FirstPicture::s_isAtEnd);
+    EXPECT_EQ(FirstPicture::s_pictures, 1);
+    EXPECT_EQ(FirstPicture::s_laterOutputs, 0);
 }
 
 } // namespace
