@@ -89,6 +89,9 @@ QString pathFromBytes(const QByteArray& bytes)
 QByteArray bytesOfPath(const QString& path)
 {
     QByteArray bytes;
+    if (path.contains(QChar(QChar::Null))) {
+        return bytes;
+    }
     walk(
         path, [&bytes](QStringView text) { bytes += text.toUtf8(); },
         [&bytes](char byte) { bytes += byte; });

@@ -12,7 +12,8 @@ namespace quillon {
 // makes U+FFFD of it, by which no file is found.) All other paths are the text that they look like.
 QString pathFromBytes(const QByteArray& bytes);
 
-// What the system's calls are to be given for such a path.
+// What the system's calls are to be given for such a path. Nothing for one with a NUL, which no
+// file has: the calls would take it for the path that ends there.
 QByteArray bytesOfPath(const QString& path);
 
 // The path that a file URL names; empty for any other URL. The URL of an absolute path.

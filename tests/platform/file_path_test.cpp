@@ -47,6 +47,13 @@ TEST(FilePath, OfAnotherKindOfUrlIsEmpty)
     EXPECT_EQ(pathOfFileUrl(QUrl(QStringLiteral("https://quillon.org/x.log"))), QString());
 }
 
+TEST(FilePath, WithANulIsNotThePathThatEndsThere)
+{
+    const QString path = pathOfFileUrl(QUrl(QStringLiteral("file:///etc/passwd%00.log")));
+    EXPECT_EQ(bytesOfPath(path), QByteArray());
+    EXPECT_EQ(displayedPath(path), QStringLiteral("/etc/passwd\u2400.log"));
+}
+
 TEST(FilePath, IsCleanWhenItIsMadeAbsolute)
 {
     const QString here = QDir::currentPath();
