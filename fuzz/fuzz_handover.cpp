@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Any call of the interface by which the desktop and later launches reach the running program, one
 // argument a line. Every URI becomes one file, in order, and each call ends in what it asks for.
+// What is opened has the name that is shown, and that is one line.
 #include "app/desktop/file_handover_adaptor.h"
 #include "fuzz/require.h"
+#include "platform/file_path.h"
+#include "platform/one_line_text.h"
 
 namespace {
 
@@ -35,6 +38,13 @@ QVariantMap platformData(int kind, const QString& text)
     return {{keys[kind % keys.size()], values[kind / keys.size() % values.size()]}};
 }
 
+void checkFile(const QUrl& url)
+{
+    const QString path = pathOfFileUrl(url);
+    require(!bytesOfPath(path).contains('\0'));
+    require(oneLineText(displayedPath(path)) == displayedPath(path));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
@@ -60,6 +70,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         adaptor.Open(texts, platform);
         require(heard.activations == 1 && heard.files == QUrl::fromStringList(texts));
         require(heard.files.size() == texts.size());
+        for (const QUrl& url : heard.files) {
+            checkFile(url);
+        }
     }
     return 0;
 }

@@ -127,9 +127,11 @@ QByteArray settingsNotation(const QString& text)
                          [&](const Escape& e) { return e.character == unit.unicode(); });
         const bool isPair =
             unit.isHighSurrogate() && i + 1 < marked.size() && marked[i + 1].isLowSurrogate();
+        // Whoever decodes a text leaves out a byte order mark at its beginning.
+        const bool isNoText = unit.unicode() < 0x20 || (unit.isSurrogate() && !isPair) ||
+                              unit == QChar(QChar::ByteOrderMark);
         const bool isByDigits =
-            escape == kEscapes.end() && (unit.unicode() < 0x20 || (unit.isSurrogate() && !isPair) ||
-                                         (afterDigits && isHexDigit(unit)));
+            escape == kEscapes.end() && (isNoText || (afterDigits && isHexDigit(unit)));
         if (isByDigits) {
             notation.append(escapedUnit(unit));
         } else if (escape != kEscapes.end()) {

@@ -110,6 +110,18 @@ TEST(SettingsText, WritesWhatQSettingsReads)
     }
 }
 
+// It opens a text by itself, and so it would be left out of one that begins with it.
+TEST(SettingsText, AByteOrderMarkInAValueIsKept)
+{
+    const TemporaryFolder folder;
+    const QString file = QStringLiteral("settings.conf");
+    const QString value = QStringLiteral("\uFEFFa\n\uFEFFb");
+    folder.write(file, afterSetting(QByteArray(), value));
+    QSettings settings(folder.path(file), QSettings::IniFormat);
+    EXPECT_EQ(settings.value(kKey).toString(), value);
+    EXPECT_EQ(valueIn(afterSetting(QByteArray(), value)), value);
+}
+
 TEST(SettingsText, ReadsWhatItWrites)
 {
     RandomText random(16);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the running program asks of the system, as strace sees it: it writes its two files, and
-// nothing else; it speaks to local sockets only; it starts no program.
+// nothing else; it speaks to local sockets only; it starts no program but the browser that is asked
+// for.
 #include "tests/support/listening_socket.h"
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
@@ -78,12 +79,30 @@ protected:
         }
         return strange;
     }
-    void expectNothingStrange(const QuillonProcess& quillon) const
+    // The programs that were started, the first of which is the program itself.
+    [[nodiscard]] QStringList startedPrograms() const
+    {
+        static const QRegularExpression kProgram(QStringLiteral("execve(?:at)?\\(\"([^\"]*)\""));
+        QStringList programs;
+        for (const QString& call : calls(kProgram.pattern())) {
+            programs.append(kProgram.match(call).captured(1));
+        }
+        return programs;
+    }
+    void expectNothingStrange(const QuillonProcess& quillon,
+                              const QStringList& startedByIt = {}) const
     {
         EXPECT_EQ(strangeChanges(quillon), QStringList());
         EXPECT_EQ(calls(QStringLiteral("socket\\((?!AF_UNIX)")), QStringList());
-        // The program itself.
-        EXPECT_EQ(calls(QStringLiteral("execve")).size(), 1);
+        EXPECT_EQ(startedPrograms(), QStringList{QStringLiteral(QUILLON_PROGRAM)} + startedByIt);
+    }
+    // Does what that element of the program is there for. (The process that was started is strace.)
+    void act(const QString& role, const QString& name)
+    {
+        const QString first = calls(QStringLiteral("execve")).value(0);
+        const qint64 id = first.section(u' ', 0, 0).toLongLong();
+        EXPECT_TRUE(spinUntil([&] { return screenReader().act(id, role, name); }))
+            << qPrintable(name);
     }
 };
 
@@ -94,6 +113,9 @@ TEST_F(LeastPrivilege, AWindowsLifeWritesItsOwnFilesAndNothingElse)
     folder().append(kLog, "b\n");
     desktop().press(QStringLiteral("ctrl+comma"));
     awaitActive(kPreferencesTitle);
+    act(QStringLiteral("check box"), QStringLiteral("Retour à la ligne par défaut"));
+    const QString settings = quillon.configuration().path(QStringLiteral("Quillon/Quillon.conf"));
+    EXPECT_TRUE(spinUntil([&settings] { return QFile::exists(settings); }));
     closeByWindowManager(kPreferencesTitle);
     awaitActive(kLogTitle);
     desktop().press(QStringLiteral("ctrl+q"));
@@ -101,7 +123,25 @@ TEST_F(LeastPrivilege, AWindowsLifeWritesItsOwnFilesAndNothingElse)
     expectNothingStrange(quillon);
     // It was looked at.
     EXPECT_FALSE(calls(QStringLiteral("O_RDONLY.*")).isEmpty());
-    EXPECT_FALSE(changes().isEmpty());
+    EXPECT_FALSE(changes().filter(settings).isEmpty());
+}
+
+TEST_F(LeastPrivilege, TheSupportSiteStartsTheBrowserAndNothingElse)
+{
+    const QString browser = folder().write(QStringLiteral("xdg-open"),
+                                           "#!/bin/sh\necho \"$@\" >\"$XDG_CONFIG_HOME/opened\"\n");
+    QFile::setPermissions(browser, QFile::ReadOwner | QFile::ExeOwner);
+    QuillonProcess& quillon = startTraced(
+        {}, kEmptyTitle,
+        {{QStringLiteral("PATH"), folder().path(QString()) + u':' + qEnvironmentVariable("PATH")}});
+    act(QStringLiteral("menu item"), QStringLiteral("Site de support…"));
+    QFile opened(quillon.configuration().path(QStringLiteral("opened")));
+    EXPECT_TRUE(spinUntil([&opened] { return opened.size() > 0; }));
+    desktop().press(QStringLiteral("ctrl+q"));
+    EXPECT_EQ(quillon.wait(), 0);
+    ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
+    EXPECT_EQ(opened.readAll(), QByteArray("https://example.org/quillon\n"));
+    expectNothingStrange(quillon, {browser});
 }
 
 TEST_F(LeastPrivilege, WithoutASessionBusNoneIsStarted)
@@ -112,7 +152,7 @@ TEST_F(LeastPrivilege, WithoutASessionBusNoneIsStarted)
                      {QStringLiteral("XDG_RUNTIME_DIR"), folder().path(QStringLiteral("none"))}});
     desktop().press(QStringLiteral("ctrl+q"));
     EXPECT_EQ(quillon.wait(), 0);
-    EXPECT_EQ(calls(QStringLiteral("execve")).size(), 1);
+    EXPECT_EQ(startedPrograms(), QStringList{QStringLiteral(QUILLON_PROGRAM)});
 }
 
 // The bus library's own patience is 25 seconds, and it was asked more than once.

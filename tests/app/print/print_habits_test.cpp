@@ -85,6 +85,23 @@ TEST_F(PrintHabits, SeveralFilesInJsonNameThemselves)
                    "{\"file\":\"b.log\",\"number\":1,\"severity\":\"unknown\",\"text\":\"b\"}\n"));
 }
 
+TEST_F(PrintHabits, AFileWhoseNameIsNoTextIsNamedInJsonWithReplacementCharacters)
+{
+    m_folder.write(kFirst, "a\n");
+    QuillonProcess quillon({});
+    quillon.process().setWorkingDirectory(m_folder.path(QString()));
+    quillon.process().setProgram(QStringLiteral("/bin/sh"));
+    // The arguments of QProcess are texts; a shell makes the bytes.
+    quillon.process().setArguments(
+        {QStringLiteral("-c"),
+         QStringLiteral("name=$(printf 'caf\\351.log'); echo b >\"$name\"; "
+                        "\"$0\" -p --json --no-runs \"$name\" a.log; rm \"$name\""),
+         QStringLiteral(QUILLON_PROGRAM)});
+    EXPECT_EQ(quillon.run(), 0);
+    EXPECT_TRUE(quillon.output().startsWith("{\"file\":\"caf\uFFFD.log\",\"number\":1,"))
+        << quillon.output().constData();
+}
+
 TEST_F(PrintHabits, SeveralFilesAreFollowedWithAHeadingWhereTheFileChanges)
 {
     m_folder.write(kFirst, "a\n");

@@ -5,6 +5,9 @@
 #include "tests/support/spin_until.h"
 #include "tests/support/test_data.h"
 
+#include <QFile>
+#include <QRegularExpression>
+
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -22,8 +25,8 @@ const QString kPrint = QStringLiteral("--print");
 // The program with its standard input in our hands.
 class PipedQuillon : public QuillonProcess {
 public:
-    explicit PipedQuillon(const QStringList& options = {})
-        : QuillonProcess(QStringList{kPrint} + options)
+    explicit PipedQuillon(const QStringList& options = {}, const Environment& environment = {})
+        : QuillonProcess(QStringList{kPrint} + options, environment)
     {
     }
 
@@ -52,6 +55,15 @@ QByteArray printedOf(const QByteArray& input, const QStringList& options = {})
     EXPECT_EQ(quillon.end(), 0);
     EXPECT_EQ(quillon.errors(), QByteArray());
     return quillon.output();
+}
+
+// The most memory that a process has had, in bytes.
+qint64 peakMemoryOf(qint64 process)
+{
+    QFile file(QStringLiteral("/proc/%1/status").arg(process));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression kPeak(QStringLiteral("VmHWM:\\s*(\\d+) kB"));
+    return kPeak.match(QString::fromLatin1(file.readAll())).captured(1).toLongLong() * 1024;
 }
 
 } // namespace
@@ -111,6 +123,30 @@ TEST(PrintStream, NothingIsDroppedFromTheHead)
     EXPECT_TRUE(output.startsWith("1\ta line of a log\n"));
     EXPECT_TRUE(output.endsWith("\n400000\ta line of a log\n"));
     EXPECT_EQ(output.count('\n'), 400'000);
+}
+
+TEST(PrintStream, MemoryDoesNotGrowWithWhatWasPrinted)
+{
+    // The sanitizer keeps what was freed, so as to notice its use.
+    PipedQuillon quillon(
+        {QStringLiteral("--no-number")},
+        {{QStringLiteral("ASAN_OPTIONS"), QStringLiteral("quarantine_size_mb=1")}});
+    const QByteArray part = (QByteArray(99, 'l') + '\n').repeated(40'000);
+    quillon.start();
+    qsizetype printed = 0;
+    const auto give = [&](int parts) {
+        for (int i = 0; i < parts; ++i) {
+            quillon.give(part);
+            printed += part.size();
+            ASSERT_TRUE(spinUntil([&] { return quillon.output().size() == printed; }));
+        }
+    };
+    give(2);
+    const qint64 before = peakMemoryOf(quillon.process().processId());
+    EXPECT_GT(before, 0);
+    give(8);
+    EXPECT_LT(peakMemoryOf(quillon.process().processId()) - before, part.size());
+    EXPECT_EQ(quillon.end(), 0);
 }
 
 TEST(PrintStream, ARedirectedFileIsReadFromItsBeginning)

@@ -35,4 +35,10 @@ QByteArray PseudoTerminal::screen()
     return m_screen;
 }
 
+void PseudoTerminal::type(const QByteArray& keys)
+{
+    EXPECT_EQ(::write(m_ours, keys.constData(), static_cast<std::size_t>(keys.size())),
+              keys.size());
+}
+
 } // namespace quillon

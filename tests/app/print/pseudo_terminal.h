@@ -17,6 +17,7 @@ public:
     [[nodiscard]] const QString& name() const { return m_name; }
     // Everything written to it so far, with the line ends that a terminal makes.
     QByteArray screen();
+    void type(const QByteArray& keys);
 
 private:
     int m_ours = -1;
