@@ -88,7 +88,8 @@ def find(node, role, name):
 
 
 def act(request):
-    found = find(application(request["pid"]), request["role"], request["name"])
+    root = application(request["pid"])
+    found = find(root, request["role"], request["name"]) if root is not None else None
     return found is not None and Atspi.Action.do_action(found, 0)
 
 

@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <chrono>
 
 namespace quillon {
 namespace {
@@ -96,6 +97,19 @@ protected:
         EXPECT_EQ(calls(QStringLiteral("socket\\((?!AF_UNIX)")), QStringList());
         EXPECT_EQ(startedPrograms(), QStringList{QStringLiteral(QUILLON_PROGRAM)} + startedByIt);
     }
+    // The key is lost when it comes while the window manager moves the focus.
+    static void quit(QuillonProcess& quillon)
+    {
+        constexpr int kAttempts = 10;
+        const auto isOver = [&quillon] {
+            return quillon.process().state() == QProcess::NotRunning;
+        };
+        for (int attempt = 0; attempt < kAttempts && !isOver(); ++attempt) {
+            desktop().press(QStringLiteral("ctrl+q"));
+            static_cast<void>(spinUntil(isOver, std::chrono::seconds(2)));
+        }
+        EXPECT_EQ(quillon.wait(), 0);
+    }
     // Does what that element of the program is there for. (The process that was started is strace.)
     void act(const QString& role, const QString& name)
     {
@@ -118,8 +132,7 @@ TEST_F(LeastPrivilege, AWindowsLifeWritesItsOwnFilesAndNothingElse)
     EXPECT_TRUE(spinUntil([&settings] { return QFile::exists(settings); }));
     closeByWindowManager(kPreferencesTitle);
     awaitActive(kLogTitle);
-    desktop().press(QStringLiteral("ctrl+q"));
-    EXPECT_EQ(quillon.wait(), 0);
+    quit(quillon);
     expectNothingStrange(quillon);
     // It was looked at.
     EXPECT_FALSE(calls(QStringLiteral("O_RDONLY.*")).isEmpty());
@@ -137,8 +150,7 @@ TEST_F(LeastPrivilege, TheSupportSiteStartsTheBrowserAndNothingElse)
     act(QStringLiteral("menu item"), QStringLiteral("Site de support…"));
     QFile opened(quillon.configuration().path(QStringLiteral("opened")));
     EXPECT_TRUE(spinUntil([&opened] { return opened.size() > 0; }));
-    desktop().press(QStringLiteral("ctrl+q"));
-    EXPECT_EQ(quillon.wait(), 0);
+    quit(quillon);
     ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
     EXPECT_EQ(opened.readAll(), QByteArray("https://example.org/quillon\n"));
     expectNothingStrange(quillon, {browser});
@@ -150,8 +162,7 @@ TEST_F(LeastPrivilege, WithoutASessionBusNoneIsStarted)
         startTraced({}, kEmptyTitle,
                     {{QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString()},
                      {QStringLiteral("XDG_RUNTIME_DIR"), folder().path(QStringLiteral("none"))}});
-    desktop().press(QStringLiteral("ctrl+q"));
-    EXPECT_EQ(quillon.wait(), 0);
+    quit(quillon);
     EXPECT_EQ(startedPrograms(), QStringList{QStringLiteral(QUILLON_PROGRAM)});
 }
 
