@@ -33,7 +33,7 @@ protected:
         };
         for (int attempt = 0; attempt < 10 && !isToggled(); ++attempt) {
             desktop().maximise(mainWindowId());
-            spinUntil(isToggled, std::chrono::seconds(2));
+            static_cast<void>(spinUntil(isToggled, std::chrono::seconds(2)));
         }
         return isToggled();
     }
