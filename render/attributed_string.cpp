@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/attributed_string.h"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace quillon {
@@ -18,7 +20,15 @@ std::uint8_t prefixLengthOf(qint64 number)
     return length;
 }
 
+// UTF-16 units whose runs are worked out at a time where all are wanted one after the other.
+constexpr qsizetype kPartLength = 65'536;
+
 } // namespace
+
+std::unique_ptr<RowLook> RowStyler::lookOf(const AttributedRow& row) const
+{
+    return std::make_unique<SettledLook>(runsOf(row));
+}
 
 AttributedRow::AttributedRow(qint64 number, QString text, LogSeverity severity,
                              std::shared_ptr<const RowStyler> styler)
@@ -35,6 +45,34 @@ QString AttributedRow::string() const
     row += m_text;
     row += u'\n';
     return row;
+}
+
+void AttributedRow::forEachRun(const std::function<void(const AttributeRun&)>& take) const
+{
+    if (length() <= kPartLength) {
+        for (const AttributeRun& run : runs()) {
+            take(run);
+        }
+        return;
+    }
+    const std::unique_ptr<RowLook> look = this->look();
+    std::optional<AttributeRun> last; // which may go on in the next part
+    for (qsizetype start = 0; start < length(); start += kPartLength) {
+        const TextRange part{start, std::min(kPartLength, length() - start)};
+        while (!look->advance(part.end())) {
+        }
+        for (const AttributeRun& run : look->runsIn(part)) {
+            if (last && last->attributes == run.attributes) {
+                last->length += run.length;
+                continue;
+            }
+            if (last) {
+                take(*last);
+            }
+            last = run;
+        }
+    }
+    take(*last);
 }
 
 qsizetype AttributedRow::lineFeedCount() const

@@ -3,10 +3,12 @@
 
 #include "model/records/log_severity.h"
 #include "platform/append_only_list.h"
+#include "render/row_look.h"
 #include "render/text_attributes.h"
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -22,6 +24,8 @@ public:
     [[nodiscard]] virtual const BaseAttributes& baseAttributes() const = 0;
     // The runs of `row`, in order, covering it without gaps; adjacent runs differ.
     [[nodiscard]] virtual std::vector<AttributeRun> runsOf(const AttributedRow& row) const = 0;
+    // The same, to be asked for a part at a time. The look needs neither row nor styler to stay.
+    [[nodiscard]] virtual std::unique_ptr<RowLook> lookOf(const AttributedRow& row) const;
 };
 
 // One row of styled text: a line number, a tab, a line's text and a line feed. It shares the text
@@ -50,7 +54,11 @@ public:
     {
         return m_styler->baseAttributes();
     }
+    // All runs at once: of a long row with many matches some hundred bytes for each.
     [[nodiscard]] std::vector<AttributeRun> runs() const { return m_styler->runsOf(*this); }
+    // All runs one after the other, without having them all in memory.
+    void forEachRun(const std::function<void(const AttributeRun&)>& take) const;
+    [[nodiscard]] std::unique_ptr<RowLook> look() const { return m_styler->lookOf(*this); }
 
 private:
     qint64 m_number;

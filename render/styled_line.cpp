@@ -17,6 +17,7 @@ constexpr std::size_t kUsualRuns = 6;
 // Cuts a row into runs. Later settings override earlier ones where they overlap.
 class RunBuilder {
 public:
+    explicit RunBuilder(std::vector<AttributeRun> runs) : m_runs(std::move(runs)) {}
     RunBuilder(qsizetype length, const Color& foreground)
     {
         m_runs.reserve(kUsualRuns);
@@ -38,10 +39,9 @@ public:
         }
     }
 
-    // Applies `change` to many ranges at once, in order and without overlap. One walk over runs and
-    // ranges together: splitting for each of them would cost the square of their number.
-    template <typename Change>
-    void applyToEach(const std::vector<TextRange>& ranges, Change change)
+    // Applies the look of a match to many ranges at once, in order and without overlap. One walk
+    // over runs and ranges together: splitting for each would cost the square of their number.
+    void mark(const std::vector<TextRange>& ranges)
     {
         std::vector<AttributeRun> runs;
         runs.reserve(m_runs.size() + 2 * ranges.size());
@@ -59,7 +59,9 @@ public:
                 }
                 AttributeRun piece{at, end - at, run.attributes};
                 if (inside) {
-                    change(piece.attributes);
+                    piece.attributes.background =
+                        Color::system(SystemColor::SelectedTextBackground, kMatchBackgroundAlpha);
+                    piece.attributes.foreground = Color::system(SystemColor::Text);
                 }
                 runs.push_back(piece);
                 at = end;
@@ -105,6 +107,30 @@ private:
     std::vector<AttributeRun> m_runs;
 };
 
+// A row with the matches of a search.
+class MarkedLook final : public RowLook {
+public:
+    MarkedLook(std::vector<AttributeRun> unmarked, std::shared_ptr<const SearchExpression> search,
+               const AttributedRow& row)
+        : m_unmarked(std::move(unmarked)), m_search(std::move(search)),
+          m_marks(*m_search, row.string(), TextRange{row.prefixLength(), row.text().size()})
+    {
+    }
+
+    bool advance(qsizetype end) override { return m_marks.advance(end); }
+    [[nodiscard]] std::vector<AttributeRun> runsIn(const TextRange& part) const override
+    {
+        RunBuilder runs(m_unmarked.runsIn(part));
+        runs.mark(m_marks.in(part));
+        return runs.take();
+    }
+
+private:
+    SettledLook m_unmarked;
+    std::shared_ptr<const SearchExpression> m_search;
+    RowMarks m_marks;
+};
+
 } // namespace
 
 LogRowStyler::LogRowStyler(const BaseAttributes& baseAttributes, const HighlightColors& colors,
@@ -114,6 +140,25 @@ LogRowStyler::LogRowStyler(const BaseAttributes& baseAttributes, const Highlight
 }
 
 std::vector<AttributeRun> LogRowStyler::runsOf(const AttributedRow& row) const
+{
+    if (!m_search) {
+        return unmarkedRunsOf(row);
+    }
+    MarkedLook look(unmarkedRunsOf(row), m_search, row);
+    while (!look.advance(row.length())) {
+    }
+    return look.runsIn(TextRange{0, row.length()});
+}
+
+std::unique_ptr<RowLook> LogRowStyler::lookOf(const AttributedRow& row) const
+{
+    if (!m_search) {
+        return std::make_unique<SettledLook>(unmarkedRunsOf(row));
+    }
+    return std::make_unique<MarkedLook>(unmarkedRunsOf(row), m_search, row);
+}
+
+std::vector<AttributeRun> LogRowStyler::unmarkedRunsOf(const AttributedRow& row) const
 {
     // The number and the tab before the text can be part of none of the fixed patterns, and a tab
     // delimits words as the start of a text does.
@@ -138,14 +183,6 @@ std::vector<AttributeRun> LogRowStyler::runsOf(const AttributedRow& row) const
     runs.apply(TextRange{0, textStart - 1}, foreground(Color::system(SystemColor::SecondaryLabel)));
     if (hasDumpCall(text)) {
         runs.apply(TextRange{0, row.length()}, foreground(m_colors[HighlightRole::ArrayDump]));
-    }
-    if (m_search) {
-        RowMarks marks(*m_search, row.string(), TextRange{textStart, text.size()});
-        runs.applyToEach(marks.upTo(row.length()), [](RunAttributes& attributes) {
-            attributes.background =
-                Color::system(SystemColor::SelectedTextBackground, kMatchBackgroundAlpha);
-            attributes.foreground = Color::system(SystemColor::Text);
-        });
     }
     return runs.take();
 }

@@ -26,8 +26,11 @@ public:
     // dump call; text colour on a light selection colour for each match of the search, which is
     // looked for in the number too.
     [[nodiscard]] std::vector<AttributeRun> runsOf(const AttributedRow& row) const override;
+    [[nodiscard]] std::unique_ptr<RowLook> lookOf(const AttributedRow& row) const override;
 
 private:
+    [[nodiscard]] std::vector<AttributeRun> unmarkedRunsOf(const AttributedRow& row) const;
+
     BaseAttributes m_baseAttributes;
     HighlightColors m_colors;
     std::shared_ptr<const SearchExpression> m_search;

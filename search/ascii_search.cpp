@@ -72,4 +72,32 @@ qsizetype AsciiSearch::find(QStringView text, qsizetype from) const
     return -1;
 }
 
+qsizetype AsciiSearch::placeBetween(QStringView text, qsizetype at) const
+{
+    const qsizetype overlap = length() - 1;
+    while (overlap > 0 && at > 0) {
+        const qsizetype from = std::max<qsizetype>(0, at - overlap);
+        const qsizetype to = std::min(at + overlap, text.size());
+        const qsizetype across = find(text.sliced(from, to - from));
+        if (across < 0) {
+            break;
+        }
+        at = from + across;
+    }
+    return at;
+}
+
+std::vector<TextRange> AsciiSearch::occurrencesIn(QStringView text, const TextRange& range) const
+{
+    std::vector<TextRange> occurrences;
+    const qsizetype start = std::clamp<qsizetype>(range.start, 0, text.size());
+    for (qsizetype at = find(text, placeBetween(text, start)); at >= 0 && at < range.end();
+         at = find(text, at + length())) {
+        if (at + length() > start) {
+            occurrences.push_back(TextRange{at, length()});
+        }
+    }
+    return occurrences;
+}
+
 } // namespace quillon

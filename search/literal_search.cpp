@@ -26,15 +26,15 @@ LiteralSearch::LiteralSearch(const QString& literal) : m_lowerCased(lowerCased(l
 }
 
 // The characters that lower case makes ASCII are among those that folding does.
-bool LiteralSearch::canCompareLetters(const QString& text) const
+const AsciiSearch* LiteralSearch::lettersFor(const QString& text) const
 {
-    return m_ascii && !hasCharacterFoldingToAscii(text);
+    return m_ascii && !hasCharacterFoldingToAscii(text) ? &*m_ascii : nullptr;
 }
 
 bool LiteralSearch::isIn(const QString& text) const
 {
-    if (canCompareLetters(text)) {
-        return m_ascii->find(text) >= 0;
+    if (const AsciiSearch* const letters = lettersFor(text)) {
+        return letters->find(text) >= 0;
     }
     const bool isOutOfReach = !m_ascii && isAsciiText(text);
     return !isOutOfReach && lowerCased(text).contains(m_lowerCased);
@@ -42,13 +42,13 @@ bool LiteralSearch::isIn(const QString& text) const
 
 std::vector<TextRange> LiteralSearch::rangesIn(const QString& text) const
 {
-    const bool isLetters = canCompareLetters(text);
-    const QString lowered = isLetters ? QString() : lowerCased(text);
-    const auto find = [&](qsizetype from) {
-        return isLetters ? m_ascii->find(text, from) : lowered.indexOf(m_lowerCased, from);
-    };
+    if (const AsciiSearch* const letters = lettersFor(text)) {
+        return letters->occurrencesIn(text, TextRange{0, text.size()});
+    }
+    const QString lowered = lowerCased(text);
     std::vector<TextRange> ranges;
-    for (qsizetype at = find(0); at >= 0; at = find(at + m_lowerCased.size())) {
+    for (qsizetype at = lowered.indexOf(m_lowerCased); at >= 0;
+         at = lowered.indexOf(m_lowerCased, at + m_lowerCased.size())) {
         const qsizetype end = std::min(at + m_lowerCased.size(), text.size());
         if (at < end) {
             ranges.push_back(TextRange{at, end - at});

@@ -19,13 +19,14 @@ public:
 
     [[nodiscard]] bool isIn(const QString& text) const;
 
+    // What finds the same in that text by comparing letters; null where nothing does.
+    [[nodiscard]] const AsciiSearch* lettersFor(const QString& text) const;
+
     // Every occurrence in the text, in order and without overlap: where it is in the text's lower
     // case, clipped to the text where lower case is longer.
     [[nodiscard]] std::vector<TextRange> rangesIn(const QString& text) const;
 
 private:
-    [[nodiscard]] bool canCompareLetters(const QString& text) const;
-
     QString m_lowerCased;
     // Set where lower case is ASCII: then comparing letters gives the same in most texts, without
     // making their lower case.

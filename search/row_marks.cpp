@@ -3,6 +3,7 @@
 
 #include "search/search_expression.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace quillon {
@@ -20,110 +21,149 @@ RowMarks::RowMarks(const SearchExpression& search, QString row, TextRange text)
       m_point{0, 0, MatchingBudget::forMarks(m_row.size())},
       m_behindPoint(SearchPoint::beginningOf(m_row))
 {
-}
-
-// In strides of a stretch each, whatever is asked for, as what is found must not depend on it.
-const std::vector<TextRange>& RowMarks::upTo(qsizetype end)
-{
-    while (!m_isOver && m_reach < end) {
-        m_reach += MatchingBudget::kStretchLength;
-        if (m_search.m_literal) {
-            m_marks = m_search.m_literal->rangesIn(m_row);
-            m_isOver = true;
-        } else if (m_search.m_plainWord && m_canCompareLetters) {
-            markWord(m_reach);
-        } else {
-            markMatches(m_reach);
-        }
-    }
-    return m_marks;
-}
-
-void RowMarks::markWord(qsizetype end)
-{
-    const AsciiSearch& word = *m_search.m_plainWord;
-    while (!m_isOver && m_point.start < end) {
-        const qsizetype at = word.find(m_row, m_point.start);
-        m_isOver = at < 0;
-        if (!m_isOver) {
-            add(TextRange{at, word.length()});
-            m_point.start = at + word.length();
-        }
+    if (search.m_literal) {
+        m_word = search.m_literal->lettersFor(m_row);
+    } else if (search.m_plainWord && m_canCompareLetters) {
+        m_word = &*search.m_plainWord;
     }
 }
 
-void RowMarks::markMatches(qsizetype end)
+// Until the first mark is found, all of them may turn out to be those of the text alone.
+bool RowMarks::isKnown(qsizetype end) const
 {
-    std::optional<TextSearch> search;
-    m_current = nullptr;
-    while (!m_isOver && m_point.start < end) {
-        m_isOver = !markOne(search);
-    }
+    const qsizetype before = m_phase == Phase::Row ? 0 : m_text.start;
+    return m_word != nullptr || m_phase == Phase::Over ||
+           (!m_marks.empty() && before + m_point.start >= end);
 }
 
-bool RowMarks::markOne(std::optional<TextSearch>& search)
+bool RowMarks::advance(qsizetype end)
 {
-    const RegularExpression* const expression = hasRequiredWord() ? expressionForNext() : nullptr;
-    if (expression == nullptr) {
-        return false;
+    if (!isKnown(end)) {
+        goOn();
     }
-    if (m_current != expression) {
-        m_current = expression;
-        search.reset();
-        search.emplace(expression->compiled(), m_row, m_point);
-    }
-    switch (search->nextToEnd()) {
-    case TextSearch::Step::Match:
-        add(search->match());
-        return true;
-    case TextSearch::Step::NoMatch:
-        return false;
-    default:
-        search.reset();
-        if (m_marks.empty()) {
-            markTextAlone();
-        }
-        return false;
-    }
+    return isKnown(end);
 }
 
-void RowMarks::markTextAlone()
+std::vector<TextRange> RowMarks::in(const TextRange& range) const
 {
-    const QStringView text = QStringView(m_row).sliced(m_text.start, m_text.length);
-    const auto markWith = [&](const RegularExpression& expression) {
-        SearchPoint point = SearchPoint::beginningOf(text);
-        TextSearch search(expression.compiled(), text, point);
-        while (search.nextToEnd() == TextSearch::Step::Match) {
-            add(search.match(), m_text.start);
-        }
+    if (m_word != nullptr) {
+        return m_word->occurrencesIn(m_row, range);
+    }
+    std::vector<TextRange> marks;
+    const auto endOf = [](const Mark& mark) {
+        return qsizetype{mark.start} + mark.length;
     };
-    markWith(*m_search.m_expression);
-    if (m_marks.empty() && m_search.m_wildcards) {
-        markWith(*m_search.m_wildcards->shorter);
+    auto mark = std::partition_point(m_marks.begin(), m_marks.end(),
+                                     [&](const Mark& each) { return endOf(each) <= range.start; });
+    for (; mark != m_marks.end() && mark->start < range.end(); ++mark) {
+        marks.push_back(TextRange{mark->start, mark->length});
     }
+    return marks;
+}
+
+// Always as far, whatever is asked for, as what is found must not depend on it.
+void RowMarks::goOn()
+{
+    if (m_search.m_literal) {
+        markLiteral();
+    } else if (isLookBehindDue()) {
+        lookBehind();
+    } else {
+        markMatches();
+    }
+}
+
+void RowMarks::markLiteral()
+{
+    for (const TextRange& range : m_search.m_literal->rangesIn(m_row)) {
+        add(range);
+    }
+    m_phase = Phase::Over;
+}
+
+void RowMarks::markMatches()
+{
+    const qsizetype end = m_point.start + MatchingBudget::kStretchLength;
+    const RegularExpression* asked = nullptr;
+    std::optional<TextSearch> search;
+    do {
+        const RegularExpression* const next = hasRequiredWord() ? expressionForNext() : nullptr;
+        if (next == nullptr) {
+            m_phase = Phase::Over;
+            return;
+        }
+        if (asked != next) {
+            search.reset();
+            search.emplace(next->compiled(), searched(), m_point);
+            asked = next;
+        }
+        const TextSearch::Step step = search->next();
+        if (step == TextSearch::Step::Unfinished) {
+            return;
+        }
+        if (step != TextSearch::Step::Match) {
+            search.reset();
+            endPhase(step == TextSearch::Step::NoMatch);
+            return;
+        }
+        add(search->match());
+    } while (m_point.start < end && !m_point.budget.isStretchOver() && !isLookBehindDue());
+}
+
+void RowMarks::endPhase(bool isDecided)
+{
+    const bool isShortcutLeft = m_phase == Phase::TextAlone && m_search.m_wildcards;
+    if (m_marks.empty() && m_phase == Phase::Row && !isDecided) {
+        m_phase = Phase::TextAlone;
+    } else if (m_marks.empty() && isShortcutLeft) {
+        m_phase = Phase::TextByShortcut;
+    } else {
+        m_phase = Phase::Over;
+    }
+    m_point = SearchPoint::beginningOf(searched());
+}
+
+QStringView RowMarks::searched() const
+{
+    const QStringView row = m_row;
+    return m_phase == Phase::Row ? row : row.sliced(m_text.start, m_text.length);
+}
+
+const RegularExpression* RowMarks::expressionForNext()
+{
+    if (m_phase == Phase::TextByShortcut) {
+        return m_search.m_wildcards->shorter.get();
+    }
+    return m_phase == Phase::Row && m_isBehindOver ? m_search.m_wildcards->others.get()
+                                                   : m_search.m_expression.get();
 }
 
 // Behind the last place where what follows a wildcard matches, an alternative that begins with one
 // would be tried in vain at each place, and each time to the row's end.
-const RegularExpression* RowMarks::expressionForNext()
+bool RowMarks::isLookBehindDue() const
 {
-    if (!m_search.m_wildcards) {
-        return m_search.m_expression.get();
-    }
-    if (!m_isBehindOver && m_behindAt < m_point.start) {
+    return m_phase == Phase::Row && m_search.m_wildcards && !m_isBehindOver &&
+           m_behindAt < m_point.start;
+}
+
+void RowMarks::lookBehind()
+{
+    if (!std::exchange(m_isLookingBehind, true)) {
         m_behindPoint.previousEnd = m_point.previousEnd;
         m_behindPoint.start = m_point.start;
-        TextSearch behind(m_search.m_wildcards->behind->compiled(), m_row, m_behindPoint);
-        const TextSearch::Step step = behind.nextToEnd();
+    }
+    TextSearch behind(m_search.m_wildcards->behind->compiled(), m_row, m_behindPoint);
+    const TextSearch::Step step = behind.next();
+    if (step != TextSearch::Step::Unfinished) {
+        m_isLookingBehind = false;
         m_isBehindOver = step == TextSearch::Step::NoMatch;
         m_behindAt = step == TextSearch::Step::Match ? behind.match().start : kEverywhere;
     }
-    return m_isBehindOver ? m_search.m_wildcards->others.get() : m_search.m_expression.get();
 }
 
 bool RowMarks::hasRequiredWord()
 {
-    if (!m_search.m_requiredWord || !m_canCompareLetters) {
+    if (m_phase != Phase::Row || !m_search.m_requiredWord || !m_canCompareLetters) {
         return true;
     }
     if (m_wordAt < m_point.start) {
@@ -133,10 +173,12 @@ bool RowMarks::hasRequiredWord()
     return m_wordAt >= 0;
 }
 
-void RowMarks::add(const TextRange& match, qsizetype offset)
+void RowMarks::add(const TextRange& match)
 {
     if (match.length > 0) {
-        m_marks.push_back(TextRange{match.start + offset, match.length});
+        const qsizetype before = m_phase == Phase::Row ? 0 : m_text.start;
+        m_marks.push_back(
+            Mark{static_cast<quint32>(before + match.start), static_cast<quint32>(match.length)});
     }
 }
 

@@ -88,8 +88,11 @@ bool TextSearch::find()
 
 TextSearch::Step TextSearch::next()
 {
-    m_point.budget.beginStretch();
-    m_stretchEnd = m_point.start + MatchingBudget::kStretchLength;
+    // Matches that are found soon one after the other share a stretch.
+    if (!m_isGoingOn || m_point.budget.isStretchOver()) {
+        m_point.budget.beginStretch();
+        m_stretchEnd = m_point.start + MatchingBudget::kStretchLength;
+    }
     const bool isFound = find();
     if (m_point.budget.isSpent()) {
         return Step::Undecided;

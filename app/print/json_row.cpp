@@ -105,13 +105,13 @@ void appendJsonRowFields(const AttributedRow& row, JsonRuns runs, QByteArray& ou
     }
     out += ",\"runs\":[";
     bool isFirst = true;
-    for (const AttributeRun& run : row.runs()) {
+    row.forEachRun([&](const AttributeRun& run) {
         if (!isFirst) {
             out += ',';
         }
         isFirst = false;
         appendRun(run, out);
-    }
+    });
     out += ']';
 }
 

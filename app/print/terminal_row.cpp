@@ -60,13 +60,12 @@ void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
     const QStringView text = row.text();
     QByteArray parameters; // of the look that the terminal has
     qsizetype written = 0; // UTF-16 units of the text
-    const std::vector<AttributeRun> runs = row.runs();
-    for (const AttributeRun& run : runs) {
+    row.forEachRun([&](const AttributeRun& run) {
         const qsizetype textEnd =
             wholeCharacterEnd(text, std::min(run.end() - prefix.size(), text.size()));
         const bool hasPrefix = m_number == RowNumber::Shown && run.start < prefix.size();
         if (!hasPrefix && textEnd <= written) {
-            continue;
+            return;
         }
         const Look& look = lookOf(run.attributes);
         if (look.parameters != parameters) {
@@ -80,7 +79,7 @@ void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
             appendText(text.sliced(written, textEnd - written), m_controls, out);
             written = textEnd;
         }
-    }
+    });
     if (!parameters.isEmpty()) {
         out += kToPlain;
     }

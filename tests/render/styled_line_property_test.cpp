@@ -189,5 +189,60 @@ TEST(StyledLineProperty, AgreesWithAPlainPainterOnGenuineLogs)
     }
 }
 
+// Checks parts of a row's look, asked for in any order, against all of its runs.
+void expectPartsOfTheWhole(const AttributedRow& row, RandomText& random)
+{
+    const std::vector<AttributeRun> whole = row.runs();
+    const auto look = row.look();
+    for (int i = 0; i < 5; ++i) {
+        const auto start = qsizetype(random.below(quint32(row.length())));
+        const TextRange part{start, 1 + qsizetype(random.below(quint32(row.length() - start)))};
+        while (!look->advance(part.end())) {
+        }
+        ASSERT_EQ(look->runsIn(part), SettledLook(whole).runsIn(part))
+            << qPrintable(row.text()) << " from " << part.start << " to " << part.end();
+    }
+    std::vector<AttributeRun> oneByOne;
+    row.forEachRun([&oneByOne](const AttributeRun& run) { oneByOne.push_back(run); });
+    ASSERT_EQ(oneByOne, whole) << qPrintable(row.text().left(4'000));
+}
+
+AttributedRow rowOf(const QString& text, const QString& query)
+{
+    return styledLine(logLine(text, 17),
+                      std::make_shared<LogRowStyler>(BaseAttributes(), distinctColors(),
+                                                     SearchExpression::make(query)));
+}
+
+TEST(StyledLineProperty, PartsOfARandomRowHaveTheRunsOfTheWhole)
+{
+    const QStringList pieces{QStringLiteral("[05-Mar-2024 10:15:42 UTC]"),
+                             QStringLiteral("10:15:42"),
+                             QStringLiteral("Array ("),
+                             QStringLiteral("error"),
+                             QStringLiteral("a"),
+                             QStringLiteral(" "),
+                             QStringLiteral("//"),
+                             QStringLiteral("ß"),
+                             QStringLiteral("1"),
+                             QString()};
+    RandomText random(42);
+    for (int i = 0; i < 4'000 && !testing::Test::HasFailure(); ++i) {
+        expectPartsOfTheWhole(rowOf(random.join(pieces, 12),
+                                    queries()[random.below(std::uint32_t(queries().size()))]),
+                              random);
+    }
+}
+
+TEST(StyledLineProperty, PartsOfALongRowHaveTheRunsOfTheWhole)
+{
+    const QString text =
+        QStringLiteral("[05-Mar-2024 10:15:42 UTC] an error, 12 of them; ss a( é ").repeated(3'000);
+    RandomText random(43);
+    for (const QString& query : queries()) {
+        expectPartsOfTheWhole(rowOf(text, query), random);
+    }
+}
+
 } // namespace
 } // namespace quillon

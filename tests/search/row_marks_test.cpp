@@ -2,6 +2,8 @@
 #include "search/row_marks.h"
 #include "search/search_expression.h"
 #include "tests/support/printing.h"
+#include "tests/support/random_text.h"
+#include "tests/support/search_comparison.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +22,7 @@ Ranges marksOfLine(const SearchExpression& expression, const QString& text)
 {
     static const QString number = QStringLiteral("1532\t");
     const QString row = number + text + u'\n';
-    return RowMarks(expression, row, TextRange{number.size(), text.size()}).upTo(row.size());
+    return marksOf(expression, row, TextRange{number.size(), text.size()});
 }
 
 // A line without the words that are searched for, of about so many characters.
@@ -69,30 +71,85 @@ TEST(RowMarks, AreTheShortcutsWhereOnlyThatSeesAMatch)
     EXPECT_FALSE(marksOfLine(*made, text).empty());
 }
 
+// Queries of every kind that marks are found in another way for.
+constexpr const char16_t* kKinds[]{
+    u"a",  u"aa",      u"abab", u"\\w+ \\d+", u"(.*)up|\\d+", u"[^w]+",     u"a[",
+    u"é[", u"\\Gw?o?", u"x*",   u".*up",      u"(?<=b)ab",    u"up used|u", u"1"};
+
 TEST(RowMarks, AreTheSameHoweverFarOneAsks)
 {
-    const QString row = (QStringLiteral("word 12, ab: ") + filling(300)).repeated(900);
-    for (const char16_t* query :
-         {u"a", u"\\w+ \\d+", u"(.*)up|\\d+", u"[^w]+", u"a[", u"\\Gw?o?"}) {
+    const QString row = (QStringLiteral("word 12, ab: é[ a[") + filling(300)).repeated(700);
+    for (const char16_t* query : kKinds) {
         const auto made = search(query);
-        RowMarks atOnce(*made, row, TextRange{0, row.size()});
-        const Ranges all = atOnce.upTo(row.size());
+        const Ranges all = marksOf(*made, row);
         RowMarks bitByBit(*made, row, TextRange{0, row.size()});
         for (qsizetype end = 0; end < row.size(); end += 10'007) {
-            const Ranges& some = bitByBit.upTo(end);
+            while (!bitByBit.advance(end)) {
+            }
+            const Ranges some = bitByBit.in(TextRange{0, end});
             ASSERT_LE(some.size(), all.size());
             ASSERT_TRUE(std::equal(some.begin(), some.end(), all.begin()));
+            ASSERT_TRUE(some.size() == all.size() || all[some.size()].start >= end);
         }
-        EXPECT_EQ(bitByBit.upTo(row.size()), all) << qPrintable(QString::fromUtf16(query));
+        EXPECT_EQ(marksOf(*made, row), all) << qPrintable(QString::fromUtf16(query));
+    }
+}
+
+TEST(RowMarks, OfAPartAreThoseOfTheRowThatTouchIt)
+{
+    const QStringList pieces{
+        QStringLiteral("a"),      QStringLiteral("b"),   QStringLiteral("ab"),
+        QStringLiteral("aaaa"),   QStringLiteral("up"),  QStringLiteral(" 12 "),
+        QStringLiteral("w"),      QStringLiteral("["),   QStringLiteral("é["),
+        QStringLiteral("\u0130"), QStringLiteral("used")};
+    RandomText random(52);
+    for (int i = 0; i < 3'000 && !testing::Test::HasFailure(); ++i) {
+        const auto made = search(kKinds[random.below(std::size(kKinds))]);
+        const QString row = random.join(pieces, 40);
+        Ranges expected = marksOf(*made, row);
+        const auto start = qsizetype(random.below(quint32(row.size()) + 1));
+        const TextRange part{start, qsizetype(random.below(20))};
+        std::erase_if(expected, [&part](const TextRange& mark) {
+            return mark.end() <= part.start || mark.start >= part.end();
+        });
+        RowMarks marks(*made, row, TextRange{0, row.size()});
+        while (!marks.advance(part.end())) {
+        }
+        EXPECT_EQ(marks.in(part), expected) << qPrintable(row) << " from " << part.start;
     }
 }
 
 TEST(RowMarks, AreNotWorkedOutBehindWhatIsAskedFor)
 {
+    const auto made = search(u"[a]");
+    const QString row(2'000'000, u'a');
+    RowMarks marks(*made, row, TextRange{0, row.size()});
+    while (!marks.advance(1'000)) {
+    }
+    EXPECT_LE(marks.in(TextRange{0, row.size()}).size(), 65'536U);
+}
+
+TEST(RowMarks, OfAWordAreKnownEverywhereAtOnce)
+{
     const auto made = search(u"a");
     const QString row(2'000'000, u'a');
     RowMarks marks(*made, row, TextRange{0, row.size()});
-    EXPECT_EQ(marks.upTo(1'000).size(), 65'536U);
+    EXPECT_TRUE(marks.advance(row.size()));
+    EXPECT_EQ(marks.in(TextRange{1'999'990, 100}).size(), 10U);
+}
+
+TEST(RowMarks, AreLookedForInStepsThatEachTakeLittle)
+{
+    // Each place reads a stretch's worth of the row, and no two find the same.
+    const auto made = search(u"b(?>[^q]*)c|[a]");
+    const QString row(300'000, u'a');
+    RowMarks marks(*made, row, TextRange{0, row.size()});
+    int steps = 1;
+    while (!marks.advance(row.size())) {
+        ++steps;
+    }
+    EXPECT_GE(steps, 5);
+    EXPECT_EQ(marks.in(TextRange{0, row.size()}).size(), 300'000U);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "search/row_marks.h"
 #include "search/search_expression.h"
 #include "tests/support/printing.h"
+#include "tests/support/search_comparison.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +9,6 @@ namespace quillon {
 namespace {
 
 using Ranges = std::vector<TextRange>;
-
-Ranges marksIn(const SearchExpression& search, const QString& row)
-{
-    return RowMarks(search, row, TextRange{0, row.size()}).upTo(row.size());
-}
 
 std::shared_ptr<const SearchExpression> search(const char16_t* query)
 {
@@ -32,14 +27,14 @@ TEST(SearchExpression, AQueryWithoutSlashesIsAnExpression)
 
 TEST(SearchExpression, TheSlashesOfAQueryAreTakenOff)
 {
-    EXPECT_EQ(marksIn(*search(u"/b+/"), QStringLiteral("abbc")), (Ranges{{1, 2}}));
+    EXPECT_EQ(marksOf(*search(u"/b+/"), QStringLiteral("abbc")), (Ranges{{1, 2}}));
 }
 
 TEST(SearchExpression, AnInvalidExpressionIsSearchedForAsItIs)
 {
     const auto made = search(u"Foo(");
     EXPECT_TRUE(made->matches(QStringLiteral("call FOO(1)")));
-    EXPECT_EQ(marksIn(*made, QStringLiteral("call FOO(1)")), (Ranges{{5, 4}}));
+    EXPECT_EQ(marksOf(*made, QStringLiteral("call FOO(1)")), (Ranges{{5, 4}}));
 }
 
 TEST(SearchExpression, AnInvalidExpressionBetweenSlashesKeepsItsSlashes)
@@ -58,36 +53,36 @@ TEST(SearchExpression, ALiteralIsNoExpressionInAnyOfItsParts)
 
 TEST(SearchExpression, OccurrencesOfALiteralDoNotOverlap)
 {
-    EXPECT_EQ(marksIn(*search(u"(("), QStringLiteral("(((((")), (Ranges{{0, 2}, {2, 2}}));
+    EXPECT_EQ(marksOf(*search(u"(("), QStringLiteral("(((((")), (Ranges{{0, 2}, {2, 2}}));
 }
 
 TEST(SearchExpression, OccurrencesOfAPlainWordDoNotOverlap)
 {
-    EXPECT_EQ(marksIn(*search(u"aa"), QStringLiteral("aAaAa")), (Ranges{{0, 2}, {2, 2}}));
+    EXPECT_EQ(marksOf(*search(u"aa"), QStringLiteral("aAaAa")), (Ranges{{0, 2}, {2, 2}}));
 }
 
 TEST(SearchExpression, EmptyMatchesAreLeftOut)
 {
     EXPECT_TRUE(search(u"x*")->matches(QStringLiteral("abc")));
-    EXPECT_TRUE(marksIn(*search(u"x*"), QStringLiteral("abc")).empty());
-    EXPECT_EQ(marksIn(*search(u"x*"), QStringLiteral("axxb")), (Ranges{{1, 2}}));
+    EXPECT_TRUE(marksOf(*search(u"x*"), QStringLiteral("abc")).empty());
+    EXPECT_EQ(marksOf(*search(u"x*"), QStringLiteral("axxb")), (Ranges{{1, 2}}));
 }
 
 TEST(SearchExpression, ALiteralBehindALengthenedCharacterKeepsItsLoweredPlace)
 {
     // The lower-case form of U+0130 is one unit longer.
     const auto made = search(u"b(");
-    EXPECT_EQ(marksIn(*made, QStringLiteral("\u0130a b( c")), (Ranges{{4, 2}}));
+    EXPECT_EQ(marksOf(*made, QStringLiteral("\u0130a b( c")), (Ranges{{4, 2}}));
 }
 
 TEST(SearchExpression, ALiteralThatRunsPastTheRowIsClipped)
 {
-    EXPECT_EQ(marksIn(*search(u"b("), QStringLiteral("\u0130b(")), (Ranges{{2, 1}}));
+    EXPECT_EQ(marksOf(*search(u"b("), QStringLiteral("\u0130b(")), (Ranges{{2, 1}}));
 }
 
 TEST(SearchExpression, ALiteralThatLiesWhollyPastTheRowIsLeftOut)
 {
-    EXPECT_TRUE(marksIn(*search(u"("), QStringLiteral("\u0130(")).empty());
+    EXPECT_TRUE(marksOf(*search(u"("), QStringLiteral("\u0130(")).empty());
 }
 
 TEST(SearchExpression, ALiteralFoldsNeitherAccentsNorWidth)
@@ -102,7 +97,7 @@ TEST(SearchExpression, ALiteralFindsAFinalSigma)
     EXPECT_TRUE(search(u"[οδος")->matches(QStringLiteral("[ΟΔΟΣ")));
     EXPECT_TRUE(search(u"[ΟΔΟΣ")->matches(QStringLiteral("x [οδος y")));
     EXPECT_FALSE(search(u"[οδος")->matches(QStringLiteral("[ΟΔΟΣΑ")));
-    EXPECT_EQ(marksIn(*search(u"[οδος"), QStringLiteral("a [ΟΔΟΣ")), (Ranges{{2, 5}}));
+    EXPECT_EQ(marksOf(*search(u"[οδος"), QStringLiteral("a [ΟΔΟΣ")), (Ranges{{2, 5}}));
 }
 
 TEST(SearchExpression, ALiteralFindsTheCharactersWhoseLowerCaseItHas)
@@ -155,7 +150,7 @@ TEST(SearchExpression, AnExpressionIsNeverALiteralForBeingCostly)
 TEST(SearchExpression, ARowThatCostsTooMuchHasTheMatchesFoundByThen)
 {
     const auto made = search(u"x|(a+)+c");
-    EXPECT_EQ(marksIn(*made, u'x' + QString(60, u'a') + u'x'), (Ranges{{0, 1}}));
+    EXPECT_EQ(marksOf(*made, u'x' + QString(60, u'a') + u'x'), (Ranges{{0, 1}}));
 }
 
 TEST(SearchExpression, WhatARowHasDoesNotDependOnWhoseTurnItWasBefore)
@@ -163,7 +158,7 @@ TEST(SearchExpression, WhatARowHasDoesNotDependOnWhoseTurnItWasBefore)
     const auto made = search(u"(a+)+c|a{4} ");
     const QString row = QStringLiteral("aaaa ") + QString(19, u'a');
     for (int i = 0; i < 40; ++i) {
-        ASSERT_EQ(marksIn(*made, row), (Ranges{{0, 5}})) << i;
+        ASSERT_EQ(marksOf(*made, row), (Ranges{{0, 5}})) << i;
     }
 }
 

@@ -12,6 +12,9 @@ constexpr std::size_t kMaximumCachedRows = 256;
 // UTF-16 units from which on a row is laid out in detail at once instead of being measured first
 // and laid out when it is shown: for a line of two million, that is half of the work.
 constexpr qsizetype kLongRow = 65'536;
+// UTF-16 units whose style is worked out at a time: whole rows, but for those of dumps and of code
+// without line ends.
+constexpr qsizetype kPartLength = 16'384;
 // Texts without a row that is known before the known ones are given up: as many as keys are typed
 // into the search field, and taken back, without a row with such characters being found.
 constexpr int kMaximumForeignTexts = 32;
@@ -34,11 +37,13 @@ bool LogTextLayout::layOut(const AttributedString& text,
     }
     if (!sameRows) {
         keepShapedRows();
+        keepLongRow();
         m_mixedRows.clear();
         m_measures.clear();
         m_measures.reserve(static_cast<std::size_t>(text.rows().size()));
     }
     if (!sameLines) {
+        m_longRow.reset();
         m_metrics = std::move(metrics);
         m_lineWidth = lineWidth;
         m_engine = std::make_unique<RowEngine>(*m_metrics, m_opportunities, m_lineWidth);
@@ -74,6 +79,29 @@ void LogTextLayout::keepShapedRows()
                                KnownRow{row.text(), row.prefixLength(), m_measures[index]});
         }
     }
+}
+
+void LogTextLayout::keepLongRow()
+{
+    m_longRow.reset();
+    for (CachedRow& cached : m_cachedRows) {
+        const AttributedRow& row = m_text.rows()[cached.row];
+        if (row.text().size() > kLongRow) {
+            m_longRow = KnownLongRow{row.text(), row.prefixLength(), std::move(cached.layout)};
+            return;
+        }
+    }
+}
+
+RowLayout LogTextLayout::layOutInDetail(const AttributedRow& row) const
+{
+    if (m_longRow && m_longRow->text.constData() == row.text().constData() &&
+        m_longRow->prefixLength == row.prefixLength()) {
+        RowLayout layout = std::move(m_longRow->layout);
+        m_longRow.reset();
+        return layout;
+    }
+    return m_engine->layouter.layOut(row);
 }
 
 // What another log had need not be kept.
@@ -159,8 +187,7 @@ LogTextLayout::CachedRow& LogTextLayout::cachedRow(qsizetype row) const
         m_cachedRows.splice(m_cachedRows.begin(), m_cachedRows, cached);
         return m_cachedRows.front();
     }
-    m_cachedRows.push_front(
-        CachedRow{row, m_engine->layouter.layOut(m_text.rows()[row]), std::nullopt});
+    m_cachedRows.push_front(CachedRow{row, layOutInDetail(m_text.rows()[row]), nullptr, {}, {}});
     if (m_cachedRows.size() > kMaximumCachedRows) {
         m_cachedRows.pop_back();
     }
@@ -172,13 +199,28 @@ const RowLayout& LogTextLayout::rowLayout(qsizetype row) const
     return cachedRow(row).layout;
 }
 
-const std::vector<AttributeRun>& LogTextLayout::rowRuns(qsizetype row) const
+LogTextLayout::PartRuns LogTextLayout::runsIn(qsizetype row, const TextRange& part,
+                                              const std::function<bool()>& isEnough) const
 {
     CachedRow& cached = cachedRow(row);
-    if (!cached.runs) {
-        cached.runs = m_text.rows()[row].runs();
+    const bool isThere = part.start >= cached.part.start && part.end() <= cached.part.end();
+    if (cached.isComplete && isThere) {
+        return {cached.runs, true};
     }
-    return *cached.runs;
+    const AttributedRow& attributed = m_text.rows()[row];
+    if (!cached.look) {
+        cached.look = attributed.look();
+    }
+    const qsizetype start = part.start / kPartLength * kPartLength;
+    const qsizetype end =
+        std::min((part.end() / kPartLength + 1) * kPartLength, attributed.length());
+    cached.isComplete = cached.look->advance(end);
+    while (!cached.isComplete && !isEnough()) {
+        cached.isComplete = cached.look->advance(end);
+    }
+    cached.part = TextRange{start, end - start};
+    cached.runs = cached.look->runsIn(cached.part);
+    return {cached.runs, cached.isComplete};
 }
 
 } // namespace quillon

@@ -9,6 +9,7 @@
 
 #include <QHash>
 
+#include <functional>
 #include <list>
 #include <memory>
 #include <optional>
@@ -57,10 +58,19 @@ public:
     // The row that a visual line belongs to, 0 ≤ line < lineCount() − 1.
     [[nodiscard]] VisualLine visualLine(qint64 line) const;
 
-    // A row in detail, and its style; kept for a while. The references hold until 255 other rows
-    // have been asked for, or layOut() is called.
+    // A row in detail; kept for a while. The reference holds until 255 other rows have been asked
+    // for, or layOut() is called.
     [[nodiscard]] const RowLayout& rowLayout(qsizetype row) const;
-    [[nodiscard]] const std::vector<AttributeRun>& rowRuns(qsizetype row) const;
+
+    // The style of a part of a row and of some of what is around it.
+    struct PartRuns {
+        const std::vector<AttributeRun>& runs; // holds until the next call
+        // Whether the search had been carried so far when it was enough.
+        bool isComplete;
+    };
+    // Works them out until `isEnough` says so; it is asked where that takes long.
+    [[nodiscard]] PartRuns runsIn(qsizetype row, const TextRange& part,
+                                  const std::function<bool()>& isEnough) const;
 
 private:
     struct KnownRow {
@@ -68,14 +78,26 @@ private:
         qsizetype prefixLength; // the text begins farther right after a longer number
         RowMeasure measure;
     };
+    // A long row that needs no new layout as long as lines are broken alike.
+    struct KnownLongRow {
+        QString text; // kept so that its address stays its own
+        qsizetype prefixLength;
+        RowLayout layout;
+    };
     struct CachedRow {
         qsizetype row;
         RowLayout layout;
-        std::optional<std::vector<AttributeRun>> runs;
+        // What has been asked for of its style.
+        std::unique_ptr<RowLook> look;
+        TextRange part;
+        std::vector<AttributeRun> runs;
+        bool isComplete = false;
     };
 
     void forgetFont();
     void keepShapedRows();
+    void keepLongRow();
+    [[nodiscard]] RowLayout layOutInDetail(const AttributedRow& row) const;
     void dropForeignRows();
     void measureRowsFrom(qsizetype firstRow);
     [[nodiscard]] RowMeasure initialMeasure(const AttributedRow& row);
@@ -99,6 +121,9 @@ private:
     QHash<const QChar*, KnownRow> m_knownRows;
     bool m_hasKnownRow = false;     // in the text at hand
     int m_textsWithoutKnownRow = 0; // one after the other
+    // One of the text before this one: a log that is a single line stays the same for most keys in
+    // the search field.
+    mutable std::optional<KnownLongRow> m_longRow;
     // Most recently used first.
     mutable std::list<CachedRow> m_cachedRows;
 };

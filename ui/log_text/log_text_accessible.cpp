@@ -130,15 +130,21 @@ public:
             return QString();
         }
         const int rowStart = offsetOf(TextPosition{position.row, 0});
-        for (const AttributeRun& run : m_view->textLayout().rowRuns(position.row)) {
-            if (position.offset < run.end()) {
-                *start = rowStart + static_cast<int>(run.start);
-                *end = rowStart + static_cast<int>(run.end());
-                return attributesOf(run.attributes, rows[position.row].severity(),
-                                    m_view->palette());
-            }
+        // What is on screen has been worked out, and for the rest nobody is kept waiting.
+        const auto& runs =
+            m_view->textLayout()
+                .runsIn(position.row, TextRange{position.offset, 1}, [] { return true; })
+                .runs;
+        const auto run =
+            std::partition_point(runs.begin(), runs.end(), [&position](const AttributeRun& each) {
+                return each.end() <= position.offset;
+            });
+        if (run == runs.end()) {
+            return QString();
         }
-        return QString();
+        *start = rowStart + static_cast<int>(run->start);
+        *end = rowStart + static_cast<int>(run->end());
+        return attributesOf(run->attributes, rows[position.row].severity(), m_view->palette());
     }
 
     // A line is a row of the log, a sentence and a paragraph too. The base class would fetch the

@@ -18,26 +18,21 @@ namespace {
 
 // What a selected line end shows, in points.
 constexpr double kLineEndMark = 4.0;
-
-// The first run that ends after `offset`.
-std::vector<AttributeRun>::const_iterator runAt(const std::vector<AttributeRun>& runs,
-                                                qsizetype offset)
-{
-    return std::partition_point(runs.begin(), runs.end(),
-                                [offset](const AttributeRun& run) { return run.end() <= offset; });
-}
+// Of processor time, after which a picture is painted without the matches that are not found yet.
+constexpr std::chrono::milliseconds kSearchSlice{20};
 
 } // namespace
 
 LogTextPainter::LogTextPainter(QPainter& painter, const LogTextLayout& layout,
                                const QPalette& palette, QPointF offset)
-    : m_painter(painter), m_layout(layout), m_palette(palette), m_offset(offset), m_colors(palette)
+    : m_painter(painter), m_layout(layout), m_palette(palette), m_offset(offset), m_colors(palette),
+      m_slice(kSearchSlice)
 {
 }
 
 LogTextPainter::~LogTextPainter() = default;
 
-void LogTextPainter::paint(const QRectF& clip, const LogTextSelection& selection)
+bool LogTextPainter::paint(const QRectF& clip, const LogTextSelection& selection)
 {
     const double height = m_layout.metrics().lineHeight();
     const double top = clip.top() + m_offset.y() - textOrigin().y();
@@ -48,6 +43,24 @@ void LogTextPainter::paint(const QRectF& clip, const LogTextSelection& selection
         paintLine(line, clip, selection);
     }
     paintGlyphs();
+    return m_isComplete;
+}
+
+LogTextPainter::Runs LogTextPainter::runsOf(const PlacedFragment& placed)
+{
+    const RowFragment& fragment = placed.fragment;
+    const auto [runs, isComplete] =
+        m_layout.runsIn(placed.row, TextRange{fragment.start, fragment.end - fragment.start},
+                        [this] { return m_slice.isOver(); });
+    m_isComplete &= isComplete;
+    const auto first =
+        std::partition_point(runs.begin(), runs.end(), [&fragment](const AttributeRun& run) {
+            return run.end() <= fragment.start;
+        });
+    const auto last = std::partition_point(first, runs.end(), [&fragment](const AttributeRun& run) {
+        return run.start < fragment.end;
+    });
+    return Runs{first, last};
 }
 
 void LogTextPainter::paintLine(qint64 line, const QRectF& clip, const LogTextSelection& selection)
@@ -120,13 +133,11 @@ void LogTextPainter::fillCharacters(const PlacedFragment& placed, qsizetype star
 void LogTextPainter::paintBackgrounds(const PlacedFragment& placed)
 {
     const RowFragment& fragment = placed.fragment;
-    const auto& runs = m_layout.rowRuns(placed.row);
-    for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
-         ++run) {
-        if (run->attributes.background) {
-            fillCharacters(placed, std::max(run->start, fragment.start),
-                           std::min(run->end(), fragment.end),
-                           QColor::fromRgba(m_colors.plain(*run->attributes.background)));
+    for (const AttributeRun& run : runsOf(placed)) {
+        if (run.attributes.background) {
+            fillCharacters(placed, std::max(run.start, fragment.start),
+                           std::min(run.end(), fragment.end),
+                           QColor::fromRgba(m_colors.plain(*run.attributes.background)));
         }
     }
 }
@@ -157,19 +168,17 @@ void LogTextPainter::paintSelection(const PlacedFragment& placed, const LogTextS
 void LogTextPainter::paintCharacters(const PlacedFragment& placed, const QRectF& clip)
 {
     const RowFragment& fragment = placed.fragment;
-    const auto& runs = m_layout.rowRuns(placed.row);
-    for (auto run = runAt(runs, fragment.start); run != runs.end() && run->start < fragment.end;
-         ++run) {
-        const qsizetype start = std::max(run->start, fragment.start);
-        const qsizetype end = std::min(run->end(), fragment.end);
+    for (const AttributeRun& run : runsOf(placed)) {
+        const qsizetype start = std::max(run.start, fragment.start);
+        const qsizetype end = std::min(run.end(), fragment.end);
         const std::array cuts{start, std::clamp(m_selected.first, start, end),
                               std::clamp(m_selected.second, start, end), end};
         for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
             if (cuts[i] == cuts[i + 1]) {
                 continue;
             }
-            const Color& color = run->attributes.foreground;
-            const Span span{cuts[i], cuts[i + 1], run->attributes.weight,
+            const Color& color = run.attributes.foreground;
+            const Span span{cuts[i], cuts[i + 1], run.attributes.weight,
                             i == 1 ? m_colors.selected(color) : m_colors.plain(color)};
             if (fragment.needsShaping()) {
                 paintShaped(placed, span);

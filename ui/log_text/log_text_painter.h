@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/time_slice.h"
 #include "ui/layout/log_text_layout.h"
 #include "ui/log_text/log_text_colors.h"
 
@@ -33,8 +34,9 @@ public:
     LogTextPainter(const LogTextPainter&) = delete;
     LogTextPainter& operator=(const LogTextPainter&) = delete;
 
-    // Draws what lies in `clip` (in the painter's coordinates).
-    void paint(const QRectF& clip, const LogTextSelection& selection);
+    // Draws what lies in `clip` (in the painter's coordinates). False where it takes longer to find
+    // all matches of the search there: then some are not marked, and the next painting goes on.
+    bool paint(const QRectF& clip, const LogTextSelection& selection);
 
 private:
     struct GlyphBatch {
@@ -58,6 +60,15 @@ private:
         QRgb color;
     };
 
+    // From one run to the one behind the last.
+    struct Runs {
+        std::vector<AttributeRun>::const_iterator first;
+        std::vector<AttributeRun>::const_iterator last;
+
+        [[nodiscard]] auto begin() const { return first; }
+        [[nodiscard]] auto end() const { return last; }
+    };
+
     void paintLine(qint64 line, const QRectF& clip, const LogTextSelection& selection);
     void paintBackgrounds(const PlacedFragment& placed);
     void paintSelection(const PlacedFragment& placed, const LogTextSelection& selection);
@@ -68,6 +79,8 @@ private:
     void paintShapedGlyphs(const PlacedFragment& placed, qsizetype start, qsizetype end);
     void paintGlyphs();
 
+    // The runs that the fragment has a part of, in order.
+    [[nodiscard]] Runs runsOf(const PlacedFragment& placed);
     void locateCharacters(const PlacedFragment& placed);
     [[nodiscard]] double xOf(const PlacedFragment& placed, qsizetype offset) const;
     void fillCharacters(const PlacedFragment& placed, qsizetype start, qsizetype end,
@@ -79,6 +92,8 @@ private:
     const QPalette& m_palette;
     QPointF m_offset;
     LogTextColors m_colors;
+    TimeSlice m_slice;
+    bool m_isComplete = true;
     std::vector<GlyphBatch> m_batches;
     std::size_t m_lastBatch = 0;
     // Of the fragment at hand: where its characters begin in their line, and where the last ends;

@@ -17,6 +17,7 @@
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -186,7 +187,10 @@ void LogTextView::paintEvent(QPaintEvent* event)
     const QRect clip = event->rect();
     painter.fillRect(clip, resolvedColor(Color::system(SystemColor::TextBackground), palette()));
     painter.setClipRect(clip);
-    LogTextPainter(painter, m_layout, palette(), m_clip.offset()).paint(clip, textSelection());
+    LogTextPainter text(painter, m_layout, palette(), m_clip.offset());
+    if (!text.paint(clip, textSelection())) {
+        QTimer::singleShot(0, viewport(), [this] { viewport()->update(); });
+    }
 }
 
 void LogTextView::resizeEvent(QResizeEvent* event)

@@ -176,7 +176,9 @@ TEST_F(LogTextLayoutTest, RowsInDetailStayTheSameHoweverManyAreAskedFor)
         const int row = (i * 37) % 2000;
         EXPECT_EQ(layout.rowLayout(row).text,
                   QString::number(row + 1) + u'\t' + QString::number(row));
-        EXPECT_EQ(layout.rowRuns(row).back().end(), layout.text().rows()[row].length());
+        const auto [runs, isComplete] = layout.runsIn(row, TextRange{0, 1}, [] { return false; });
+        EXPECT_TRUE(isComplete);
+        EXPECT_EQ(runs.back().end(), layout.text().rows()[row].length());
     }
 }
 

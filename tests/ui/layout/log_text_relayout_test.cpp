@@ -4,6 +4,7 @@
 #include "ui/layout/log_text_layout.h"
 
 #include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -149,6 +150,43 @@ TEST_F(LogTextRelayout, MeasuringAndLayingOutAgreeOnRowsOfAllKinds)
             widest = std::max(widest, extent.width);
         }
         EXPECT_EQ(layout.width(), widest);
+    }
+}
+
+// Where each fragment of a row stands.
+std::vector<std::array<qint64, 4>> placesIn(const RowLayout& row)
+{
+    std::vector<std::array<qint64, 4>> places;
+    for (const RowFragment& fragment : row.fragments) {
+        places.push_back({fragment.start, fragment.end, fragment.line, fragment.x});
+    }
+    return places;
+}
+
+TEST_F(LogTextRelayout, GivesAFreshLayoutOfALongRowThatStays)
+{
+    const QString line = QStringLiteral("word after word\t").repeated(6'000);
+    const QString other = QStringLiteral("another word for").repeated(6'000);
+    struct Step {
+        const char* change;
+        QString line;
+        qint64 number;
+        qsizetype columns;
+    };
+    for (const auto& [change, text, number, width] :
+         {Step{"none", line, 7, 60}, Step{"none", line, 7, 60},
+          Step{"a longer number", line, 70, 60}, Step{"another width", line, 70, 47},
+          Step{"another text", other, 70, 47}, Step{"no wrapping", other, 70, 0}}) {
+        AttributedString shown;
+        shown.append(sampleRow(QStringLiteral("short"), 1));
+        shown.append(sampleRow(text, number));
+        columns = width;
+        expectFreshLayout(shown);
+        LogTextLayout fresh;
+        fresh.layOut(shown, metrics,
+                     width > 0 ? std::optional(widthOfColumns(width, *metrics)) : std::nullopt);
+        EXPECT_EQ(layout.rowLayout(1).text, fresh.rowLayout(1).text) << change;
+        EXPECT_EQ(placesIn(layout.rowLayout(1)), placesIn(fresh.rowLayout(1))) << change;
     }
 }
 
