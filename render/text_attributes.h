@@ -22,7 +22,7 @@ struct BaseAttributes {
     bool operator==(const BaseAttributes&) const = default;
 };
 
-// What one stretch of a row looks like beyond its base attributes.
+// What one span of a row looks like beyond its base attributes.
 struct RunAttributes {
     Color foreground = Color::system(SystemColor::Text);
     std::optional<Color> background;
@@ -30,7 +30,7 @@ struct RunAttributes {
     bool operator==(const RunAttributes&) const = default;
 };
 
-// A stretch of a row; start and length in UTF-16 units from the start of the row.
+// A span of a row; start and length in UTF-16 units from the start of the row.
 struct AttributeRun {
     qsizetype start = 0;
     qsizetype length = 0;

@@ -73,6 +73,14 @@ TEST_F(LogRefusal, AnAddressThatNamesNoFileIsReported)
     expectRefusal(ENOENT);
 }
 
+TEST_F(LogRefusal, AUrlWithANulDoesNotOpenTheFileWhosePathEndsThere)
+{
+    folder().write(kFile, "secret\n");
+    model().openLog(QUrl(url().toString() + QStringLiteral("%00.log")));
+    expectRefusal(ENOENT);
+    EXPECT_TRUE(model().path.get()->endsWith(QStringLiteral("/file.log\u2400.log")));
+}
+
 TEST_F(LogRefusal, TheNewFileIsNamedAllTheSame)
 {
     open("un\n");

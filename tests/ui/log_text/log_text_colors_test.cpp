@@ -94,7 +94,7 @@ TEST_P(LogTextColoursInEveryAppearance, StayWhatTheyAreWhereTheyCanBeReadSelecte
     EXPECT_EQ(selectedTextColorOn(color, palette), textColorOn(color, palette));
 }
 
-TEST_P(LogTextColoursInEveryAppearance, ThatLetTheirGroundThroughAreReadSelectedToo)
+TEST_P(LogTextColoursInEveryAppearance, ThatLetTheirBackgroundThroughAreReadSelectedToo)
 {
     const double extreme = GetParam() == Appearance::Light ? 0.0 : 1.0;
     const QPalette palette = paletteFor(GetParam());
