@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-constexpr qsizetype kBytes = 3'000'000;
+constexpr qsizetype kBytes = 2'000'000;
 
 class Load : public ViewModelTest {
 protected:
@@ -36,10 +36,14 @@ protected:
 
 TEST_F(Load, EveryByteThatAnotherProcessWritesIsShown)
 {
-    LogWriter writer(folder().path(kFile), kBytes, std::chrono::milliseconds(300));
+    // So often that it falls between any two steps of a look.
+    constexpr std::uint32_t kLongestCut = 400;
+    LogWriter writer(folder().path(kFile), kBytes, std::chrono::milliseconds(300), kLongestCut);
     ASSERT_TRUE(spinUntil([&] {
         const bool isAllThere = writer.isDone();
-        model().pollTail();
+        for (int look = 0; look < 50; ++look) {
+            model().pollTail();
+        }
         return isAllThere;
     }));
     const QByteArray bytes = written();

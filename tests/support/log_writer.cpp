@@ -23,7 +23,6 @@ using Clock = std::chrono::steady_clock;
 
 // Made piece by piece, as all of it would take as much memory again as what is measured.
 constexpr qsizetype kPieceBytes = qsizetype{4} * 1024 * 1024;
-constexpr std::uint32_t kLongestCut = 32'768;
 
 class Schedule {
 public:
@@ -42,7 +41,8 @@ private:
     const Clock::time_point m_start = Clock::now();
 };
 
-bool writeInCuts(int file, qsizetype bytes, std::chrono::milliseconds time)
+bool writeInCuts(int file, qsizetype bytes, std::chrono::milliseconds time,
+                 std::uint32_t longestCut)
 {
     const Schedule schedule(bytes, time);
     RandomText random(14);
@@ -51,7 +51,7 @@ bool writeInCuts(int file, qsizetype bytes, std::chrono::milliseconds time)
         const QByteArray piece = numberedLog(std::min(bytes - written, kPieceBytes), nextNumber);
         nextNumber += piece.count('\n');
         for (qsizetype at = 0; at < piece.size();) {
-            const qsizetype wanted = 1 + qsizetype(random.below(kLongestCut));
+            const qsizetype wanted = 1 + qsizetype(random.below(longestCut));
             const qsizetype cut = std::min(wanted, piece.size() - at);
             if (::write(file, piece.constData() + at, std::size_t(cut)) != cut) {
                 return false;
@@ -66,7 +66,8 @@ bool writeInCuts(int file, qsizetype bytes, std::chrono::milliseconds time)
 
 } // namespace
 
-LogWriter::LogWriter(const QString& path, qsizetype bytes, std::chrono::milliseconds time)
+LogWriter::LogWriter(const QString& path, qsizetype bytes, std::chrono::milliseconds time,
+                     std::uint32_t longestCut)
 {
     const QByteArray name = QFile::encodeName(path);
     m_process = ::fork();
@@ -76,7 +77,8 @@ LogWriter::LogWriter(const QString& path, qsizetype bytes, std::chrono::millisec
     if (m_process == 0) {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         const int file = ::open(name.constData(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
-        ::_exit(file >= 0 && writeInCuts(file, bytes, time) ? EXIT_SUCCESS : EXIT_FAILURE);
+        ::_exit(file >= 0 && writeInCuts(file, bytes, time, longestCut) ? EXIT_SUCCESS
+                                                                        : EXIT_FAILURE);
     }
 }
 

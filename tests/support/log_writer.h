@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <chrono>
+#include <cstdint>
 #include <sys/types.h>
 
 namespace quillon {
@@ -13,8 +14,10 @@ namespace quillon {
 // characters. It is ended with the object. Failing to start it ends the program.
 class LogWriter {
 public:
-    // Writes at least `bytes` bytes, evenly over the time, or without a pause when there is none.
-    LogWriter(const QString& path, qsizetype bytes, std::chrono::milliseconds time);
+    // Writes at least `bytes` bytes, evenly over the time, or without a pause when there is none;
+    // at most `longestCut` bytes at once.
+    LogWriter(const QString& path, qsizetype bytes, std::chrono::milliseconds time,
+              std::uint32_t longestCut = 32'768);
     ~LogWriter();
     LogWriter(const LogWriter&) = delete;
     LogWriter& operator=(const LogWriter&) = delete;

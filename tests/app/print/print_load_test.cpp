@@ -24,7 +24,10 @@ public:
     SlowReader()
     {
         EXPECT_EQ(::pipe2(m_ends.data(), O_CLOEXEC), 0);
-        ::fcntl(m_ends[0], F_SETFL, O_NONBLOCK);
+        // Whoever shares a pipe may have set it not to block, also for the program.
+        for (const int end : m_ends) {
+            ::fcntl(end, F_SETFL, O_NONBLOCK);
+        }
     }
     ~SlowReader()
     {
