@@ -17,6 +17,7 @@ int fuzz_command_line(const unsigned char* data, std::size_t size);
 int fuzz_follower(const unsigned char* data, std::size_t size);
 int fuzz_handover(const unsigned char* data, std::size_t size);
 int fuzz_rows(const unsigned char* data, std::size_t size);
+int fuzz_search(const unsigned char* data, std::size_t size);
 int fuzz_settings(const unsigned char* data, std::size_t size);
 }
 
@@ -108,11 +109,13 @@ TEST_P(FuzzReplay, TakesWhatIsNearTheCorpus)
 }
 
 const std::vector<Target> kTargets{
-    {"color", fuzz_color},       {"command_line", fuzz_command_line}, {"follower", fuzz_follower},
+    {"color", fuzz_color},       {"command_line", fuzz_command_line},
+    {"follower", fuzz_follower},
 #ifdef QUILLON_HAS_DBUS
     {"handover", fuzz_handover},
 #endif
-    {"rows", fuzz_rows},         {"settings", fuzz_settings},
+    {"rows", fuzz_rows},         {"search", fuzz_search},
+    {"settings", fuzz_settings},
 };
 
 INSTANTIATE_TEST_SUITE_P(Targets, FuzzReplay, testing::ValuesIn(kTargets),

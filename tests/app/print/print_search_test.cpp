@@ -79,5 +79,49 @@ TEST_F(PrintSearch, PrintsTheSameRowsWhenItIsStoppedInBetween)
     EXPECT_EQ(quillon.output(), expected());
 }
 
+// The processor time that a process has used, in ticks of the kernel's.
+qint64 ticksOf(qint64 process)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    static_cast<void>(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    constexpr int kUserTime = 11; // behind the name
+    return text.mid(text.lastIndexOf(')') + 2).split(' ').value(kUserTime).toLongLong();
+}
+
+TEST(PrintCostlySearch, DecidesTheSameWhenItIsStoppedForSecondsInALine)
+{
+    const TemporaryFolder folder;
+    const QByteArray line = QByteArray(30'000, 'a') + "bq\n";
+    const QString path = folder.write(QStringLiteral("debug.log"), line + line + line);
+    QuillonProcess quillon({QStringLiteral("--print"), QStringLiteral("--query"),
+                            QStringLiteral("a(?>[^q]*)c|bq"), path});
+    quillon.start();
+    const auto id = static_cast<pid_t>(quillon.process().processId());
+    constexpr qint64 kStartedSearching = 30;
+    ASSERT_TRUE(spinUntil([id] { return ticksOf(id) >= kStartedSearching; }));
+    ::kill(id, SIGSTOP);
+    ASSERT_TRUE(spinUntil([id] { return stateOf(id) == 'T'; }));
+    spinFor(std::chrono::seconds(4));
+    ASSERT_EQ(stateOf(id), 'T');
+    ::kill(id, SIGCONT);
+    EXPECT_EQ(quillon.wait(), 0);
+    EXPECT_EQ(quillon.output(), "1\t" + line + "2\t" + line + "3\t" + line);
+    EXPECT_EQ(quillon.errors(), QByteArray());
+}
+
+TEST_F(PrintSearch, TellsHowManyLinesOfStandardInputCouldNotBeDecided)
+{
+    QStringList options = arguments();
+    options.removeLast();
+    QuillonProcess quillon(options);
+    quillon.process().setStandardInputFile(arguments().last());
+    EXPECT_EQ(quillon.run(), 0);
+    EXPECT_EQ(quillon.output(), expected());
+    EXPECT_TRUE(quillon.errors().contains(
+        "Recherche trop coûteuse pour 200 lignes, qui ne sont pas affichées\n"))
+        << quillon.errors().constData();
+}
+
 } // namespace
 } // namespace quillon

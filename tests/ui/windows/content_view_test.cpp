@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "model/notification_names.h"
+#include "render/status_text.h"
 #include "tests/support/paint_watch.h"
 #include "tests/ui/windows/content_view_fixture.h"
 #include "ui/log_text/log_text_view.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDialog>
 #include <QGuiApplication>
 #include <QScrollBar>
+
+#include <memory>
 
 namespace quillon {
 namespace {
@@ -322,6 +326,82 @@ TEST_F(ContentViewTest, CopyAndSelectAllMeanTheSearchFieldThatHasTheKeyboard)
     EXPECT_EQ(search().selectedText(), QStringLiteral("fatal"));
     view.copy();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("fatal"));
+}
+
+// A log and a search over it that takes several slices of processor time.
+class CostlySearch : public ContentViewFixture {
+protected:
+    static constexpr int kCostlyLines = 300;
+
+    void begin()
+    {
+        openLog((QByteArray(60, 'a') + "b\n").repeated(kCostlyLines));
+        viewModel.query.set(QStringLiteral("(a+)+$"));
+        viewModel.recompute();
+        ASSERT_TRUE(viewModel.isRecomputing.get());
+    }
+    [[nodiscard]] bool finish()
+    {
+        return spinUntil([this] { return !viewModel.isRecomputing.get(); });
+    }
+    static bool isPointerBusy()
+    {
+        const QCursor* const cursor = QGuiApplication::overrideCursor();
+        return cursor != nullptr && cursor->shape() == Qt::BusyCursor;
+    }
+    [[nodiscard]] bool isLogBusy() const
+    {
+        auto* const log = view.findChild<LogTextView*>();
+        return QAccessible::queryAccessibleInterface(log)->state().busy;
+    }
+};
+
+TEST_F(CostlySearch, ThePointerAndTheLogAreBusyUntilItIsOver)
+{
+    EXPECT_FALSE(isPointerBusy());
+    EXPECT_FALSE(isLogBusy());
+    begin();
+    EXPECT_TRUE(isPointerBusy());
+    EXPECT_TRUE(isLogBusy());
+    ASSERT_TRUE(finish());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(isLogBusy());
+}
+
+TEST_F(CostlySearch, AnotherKeyEndsTheBusyPointer)
+{
+    begin();
+    search().setText(QStringLiteral("b"));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(isLogBusy());
+}
+
+TEST_F(CostlySearch, AViewThatGoesAwayMeanwhileLeavesNoBusyPointer)
+{
+    begin();
+    auto second = std::make_unique<ContentView>(viewModel, temporary.center);
+    second.reset();
+    ASSERT_TRUE(finish());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(CostlySearch, TheSearchFieldSaysHowManyLinesAreUndecided)
+{
+    begin();
+    ASSERT_TRUE(finish());
+    const QString note = undecidedText(kCostlyLines);
+    const auto noteOf = [](QWidget& widget) {
+        return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Description);
+    };
+    QWidget& field = *search().parentWidget();
+    EXPECT_FALSE(note.isEmpty());
+    EXPECT_EQ(field.toolTip(), note);
+    EXPECT_EQ(noteOf(search()), note);
+
+    viewModel.query.set(QStringLiteral("a"));
+    viewModel.recompute();
+    EXPECT_EQ(field.toolTip(), QString());
+    EXPECT_EQ(noteOf(search()), search().placeholderText());
 }
 
 } // namespace
