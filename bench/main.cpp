@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Prints how long the program takes for what users wait for, as ratios to references timed in the
-// same run. Arguments: any of "model", "view", "script", "process", "pipe"; all of them
-// without any.
+// same run. Arguments: any of "model", "view", "script", "typing", "process", "pipe"; all
+// of them without any.
 #include "bench/ratio_table.h"
 
 #include <QApplication>
@@ -27,6 +27,9 @@ int main(int argc, char** argv)
     }
     if (isWanted("script")) {
         runScriptRatios(table);
+    }
+    if (isWanted("typing")) {
+        runTypingGaps(table);
     }
     if (isWanted("process")) {
         runProcessRatios(table);

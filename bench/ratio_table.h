@@ -36,6 +36,7 @@ private:
 void runModelRatios(RatioTable& table);
 void runViewRatios(RatioTable& table);
 void runScriptRatios(RatioTable& table);
+void runTypingGaps(RatioTable& table);
 void runProcessRatios(RatioTable& table);
 void runPipeRatios(RatioTable& table);
 

@@ -4,6 +4,11 @@
 #include "bench/ratio_table.h"
 #include "bench/reference_view.h"
 
+#include <QFile>
+
+#include <functional>
+#include <malloc.h>
+
 namespace quillon::bench {
 
 namespace {
@@ -24,6 +29,52 @@ void compareKeyPress(RatioTable& table)
     };
     table.addSpeedUp(QStringLiteral("key press: recompute, update, paint | QTextEdit"),
                      comparePairs(ours, theirs), 50);
+}
+
+// The resident memory that the work takes beyond what there is before it.
+double peakBytesOf(const std::function<void()>& work)
+{
+    ::malloc_trim(0);
+    const auto kibibytesOf = [](const char* field) {
+        QFile status(QStringLiteral("/proc/self/status"));
+        static_cast<void>(status.open(QIODevice::ReadOnly));
+        const QByteArray text = status.readAll();
+        const qsizetype at = text.indexOf(field) + qsizetype(qstrlen(field));
+        return text.mid(at, text.indexOf(" kB", at) - at).trimmed().toDouble();
+    };
+    // From here on the kernel keeps the peak anew.
+    QFile peak(QStringLiteral("/proc/self/clear_refs"));
+    static_cast<void>(peak.open(QIODevice::WriteOnly));
+    peak.write("5");
+    peak.close();
+    const double before = kibibytesOf("VmRSS:");
+    work();
+    return (kibibytesOf("VmHWM:") - before) * 1024;
+}
+
+// A key press that finds something at thousands of places of a log that is one line.
+void compareKeyPressOnOneLine(RatioTable& table)
+{
+    const Model model;
+    const QByteArray log = generatedLog(kLogBytes);
+    QByteArray joined = log;
+    joined.replace('\n', ' ');
+    const LogLines lines = linesOf(log);
+    const LogLines oneLine = linesOf(joined);
+    OwnView view;
+    OwnView reference;
+    const QString query = QStringLiteral("e");
+    const auto keyPress = [&](OwnView& shown, const LogLines& searched) {
+        return millisecondsOf([&] { shown.show(model.styled(searched, query), true); });
+    };
+    table.add(QStringLiteral("key press on one line of 2 MiB | usual log"),
+              comparePairs([&] { return keyPress(view, oneLine); },
+                           [&] { return keyPress(reference, lines); }, 25),
+              3);
+    constexpr double kMebibyte = 1'048'576;
+    table.addQuantity(QStringLiteral("the same: memory that it takes meanwhile"),
+                      peakBytesOf([&] { keyPress(view, oneLine); }) / kMebibyte,
+                      QStringLiteral("MiB"), 40);
 }
 
 void compareReplacing(RatioTable& table, bool isWrapped)
@@ -91,6 +142,7 @@ void compareTailBatches(RatioTable& table)
 void runViewRatios(RatioTable& table)
 {
     compareKeyPress(table);
+    compareKeyPressOnOneLine(table);
     compareReplacing(table, true);
     compareReplacing(table, false);
     compareRewrapping(table);

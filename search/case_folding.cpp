@@ -16,13 +16,23 @@ constexpr bool foldsToAscii(char16_t unit)
            (unit >= 0xFB00 && unit <= 0xFB06);
 }
 
+constexpr qsizetype kUnitsAtATime = 64;
+
 } // namespace
 
 bool hasCharacterFoldingToAscii(QStringView text)
 {
     const char16_t* const units = text.utf16();
-    // Most lines are ASCII, which a look at eight units at a time tells.
-    return !isAscii(units, text.size()) && std::any_of(units, units + text.size(), foldsToAscii);
+    const qsizetype size = text.size();
+    // Most of most lines is ASCII, which a look at many units at a time tells.
+    for (qsizetype at = 0; at < size; at += kUnitsAtATime) {
+        const qsizetype count = std::min(kUnitsAtATime, size - at);
+        if (!isAscii(units + at, count) &&
+            std::any_of(units + at, units + at + count, foldsToAscii)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace quillon

@@ -12,6 +12,7 @@ constexpr std::size_t kMaximumCachedRows = 256;
 // UTF-16 units from which on a row is laid out in detail at once instead of being measured first
 // and laid out when it is shown: for a line of two million, that is half of the work.
 constexpr qsizetype kLongRow = 65'536;
+constexpr std::size_t kMaximumLongRows = 2;
 // UTF-16 units whose style is worked out at a time: whole rows, but for those of dumps and of code
 // without line ends.
 constexpr qsizetype kPartLength = 16'384;
@@ -32,18 +33,19 @@ bool LogTextLayout::layOut(const AttributedString& text,
     const bool sameRows = text.isExtensionOf(m_text);
     const qsizetype firstRow = sameLines && sameRows ? m_text.rows().size() : 0;
     const bool isOther = !sameLines || !sameRows || text.rows().size() > firstRow;
+    if (firstRow == 0) {
+        keepLongRow();
+    }
     if (m_metrics != metrics) {
         forgetFont();
     }
     if (!sameRows) {
         keepShapedRows();
-        keepLongRow();
         m_mixedRows.clear();
         m_measures.clear();
         m_measures.reserve(static_cast<std::size_t>(text.rows().size()));
     }
     if (!sameLines) {
-        m_longRow.reset();
         m_metrics = std::move(metrics);
         m_lineWidth = lineWidth;
         m_engine = std::make_unique<RowEngine>(*m_metrics, m_opportunities, m_lineWidth);
@@ -62,6 +64,7 @@ bool LogTextLayout::layOut(const AttributedString& text,
 
 void LogTextLayout::forgetFont()
 {
+    m_longRows.clear();
     m_knownRows.clear();
     for (const std::size_t row : m_mixedRows) {
         RowMeasure unknown;
@@ -81,27 +84,40 @@ void LogTextLayout::keepShapedRows()
     }
 }
 
+// What another log had need not be kept here either.
 void LogTextLayout::keepLongRow()
 {
-    m_longRow.reset();
-    for (CachedRow& cached : m_cachedRows) {
-        const AttributedRow& row = m_text.rows()[cached.row];
-        if (row.text().size() > kLongRow) {
-            m_longRow = KnownLongRow{row.text(), row.prefixLength(), std::move(cached.layout)};
-            return;
-        }
+    const auto cached =
+        std::find_if(m_cachedRows.begin(), m_cachedRows.end(), [this](const CachedRow& each) {
+            return m_text.rows()[each.row].text().size() > kLongRow;
+        });
+    if (cached == m_cachedRows.end()) {
+        m_longRows.clear();
+        return;
+    }
+    const AttributedRow& row = m_text.rows()[cached->row];
+    std::erase_if(m_longRows, [&](const KnownLongRow& known) {
+        return known.text.constData() != row.text().constData() || known.lineWidth == m_lineWidth;
+    });
+    m_longRows.push_back({row.text(), row.prefixLength(), m_lineWidth, std::move(cached->layout)});
+    if (m_longRows.size() > kMaximumLongRows) {
+        m_longRows.erase(m_longRows.begin());
     }
 }
 
 RowLayout LogTextLayout::layOutInDetail(const AttributedRow& row) const
 {
-    if (m_longRow && m_longRow->text.constData() == row.text().constData() &&
-        m_longRow->prefixLength == row.prefixLength()) {
-        RowLayout layout = std::move(m_longRow->layout);
-        m_longRow.reset();
-        return layout;
+    const auto known =
+        std::find_if(m_longRows.begin(), m_longRows.end(), [&](const KnownLongRow& each) {
+            return each.text.constData() == row.text().constData() &&
+                   each.prefixLength == row.prefixLength() && each.lineWidth == m_lineWidth;
+        });
+    if (known == m_longRows.end()) {
+        return m_engine->layouter.layOut(row);
     }
-    return m_engine->layouter.layOut(row);
+    RowLayout layout = std::move(known->layout);
+    m_longRows.erase(known);
+    return layout;
 }
 
 // What another log had need not be kept.

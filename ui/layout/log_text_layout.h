@@ -78,10 +78,11 @@ private:
         qsizetype prefixLength; // the text begins farther right after a longer number
         RowMeasure measure;
     };
-    // A long row that needs no new layout as long as lines are broken alike.
+    // A long row as it was laid out in a text before this one, for one font.
     struct KnownLongRow {
         QString text; // kept so that its address stays its own
         qsizetype prefixLength;
+        std::optional<Fixed> lineWidth;
         RowLayout layout;
     };
     struct CachedRow {
@@ -121,9 +122,9 @@ private:
     QHash<const QChar*, KnownRow> m_knownRows;
     bool m_hasKnownRow = false;     // in the text at hand
     int m_textsWithoutKnownRow = 0; // one after the other
-    // One of the text before this one: a log that is a single line stays the same for most keys in
-    // the search field.
-    mutable std::optional<KnownLongRow> m_longRow;
+    // The same one at up to two widths, oldest first: a log that is a single line stays the same
+    // for most keys in the search field, and each time it is tried without and with a scroll bar.
+    mutable std::vector<KnownLongRow> m_longRows;
     // Most recently used first.
     mutable std::list<CachedRow> m_cachedRows;
 };

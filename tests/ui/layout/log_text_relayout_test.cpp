@@ -176,6 +176,7 @@ TEST_F(LogTextRelayout, GivesAFreshLayoutOfALongRowThatStays)
     for (const auto& [change, text, number, width] :
          {Step{"none", line, 7, 60}, Step{"none", line, 7, 60},
           Step{"a longer number", line, 70, 60}, Step{"another width", line, 70, 47},
+          Step{"the first width", line, 70, 60}, Step{"the other width", line, 70, 47},
           Step{"another text", other, 70, 47}, Step{"no wrapping", other, 70, 0}}) {
         AttributedString shown;
         shown.append(sampleRow(QStringLiteral("short"), 1));
