@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/command_line/option_table.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <array>
 #include <vector>
