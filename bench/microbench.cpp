@@ -9,12 +9,14 @@
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "ui/layout/log_text_layout.h"
+#include "ui/layout/severity_marks.h"
 #include "ui/log_text/log_text_view.h"
 #include "ui/theme/theme.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
 
+#include <array>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 
@@ -201,6 +203,52 @@ void dragShaped(benchmark::State& state, const char* phrase)
 BENCHMARK_CAPTURE(dragShaped, Arabic, kArabic)->Unit(benchmark::kMillisecond)->Iterations(80);
 BENCHMARK_CAPTURE(dragShaped, accent, kAccent)->Unit(benchmark::kMillisecond)->Iterations(80);
 BENCHMARK_CAPTURE(dragShaped, emoji, kEmoji)->Unit(benchmark::kMillisecond)->Iterations(80);
+
+// Which rows of a text that replaces another are severe.
+void gatherSevereRows(benchmark::State& state)
+{
+    const Styled styled;
+    const std::array texts{styled.text(), styled.text()};
+    SevereRows rows;
+    std::size_t next = 0;
+    for (auto _ : state) {
+        rows.follow(texts[next++ % texts.size()]);
+        benchmark::DoNotOptimize(rows.bySeverity().front().size());
+    }
+}
+BENCHMARK(gatherSevereRows)->Unit(benchmark::kMicrosecond);
+
+// The same for a batch of a hundred rows behind it.
+void gatherNewSevereRows(benchmark::State& state)
+{
+    AttributedString text = Styled().text();
+    SevereRows rows;
+    rows.follow(text);
+    qsizetype next = 0;
+    for (auto _ : state) {
+        for (int i = 0; i < 100; ++i) {
+            text.append(text.rows()[next++ % 10'000]);
+        }
+        rows.follow(text);
+    }
+}
+BENCHMARK(gatherNewSevereRows)->Unit(benchmark::kMicrosecond)->Iterations(2'000);
+
+// Where their marks stand on a track of a large screen's height; at worst each row is one.
+void placeMarks(benchmark::State& state, const QString& query)
+{
+    const AttributedString text = Styled().text(query);
+    const auto metrics = usualMetrics();
+    LogTextLayout layout;
+    layout.layOut(text, metrics, 120 * metrics->columnAdvance());
+    SevereRows rows;
+    rows.follow(text);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(marksOnTrack(rows, layout, 1'200).size());
+    }
+}
+BENCHMARK_CAPTURE(placeMarks, usual, QString())->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(placeMarks, errorsOnly, QStringLiteral("fatal"))->Unit(benchmark::kMicrosecond);
 
 void resizeView(benchmark::State& state)
 {

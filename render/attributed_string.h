@@ -22,6 +22,8 @@ class RowStyler {
 public:
     virtual ~RowStyler() = default;
     [[nodiscard]] virtual const BaseAttributes& baseAttributes() const = 0;
+    // What that severity is marked with where no row of it shows.
+    [[nodiscard]] virtual Color severityColor(LogSeverity severity) const = 0;
     // The runs of `row`, in order, covering it without gaps; adjacent runs differ.
     [[nodiscard]] virtual std::vector<AttributeRun> runsOf(const AttributedRow& row) const = 0;
     // The same, to be asked for a part at a time. The look needs neither row nor styler to stay.
@@ -54,6 +56,7 @@ public:
     {
         return m_styler->baseAttributes();
     }
+    [[nodiscard]] Color severityColor() const { return m_styler->severityColor(m_severity); }
     // All runs at once: of a long row with many matches some hundred bytes for each.
     [[nodiscard]] std::vector<AttributeRun> runs() const { return m_styler->runsOf(*this); }
     // All runs one after the other, without having them all in memory.

@@ -20,6 +20,11 @@ public:
 
     [[nodiscard]] const BaseAttributes& baseAttributes() const override { return m_baseAttributes; }
 
+    [[nodiscard]] Color severityColor(LogSeverity severity) const override
+    {
+        return m_colors[roleOf(severity)];
+    }
+
     // From weakest to strongest: the severity's colour on the whole row; the timestamp's colour on
     // the first PHP timestamp and, in a row that has one, bold on the first time of day; the
     // secondary label colour on the line number; the dump colour on the whole row where it holds a

@@ -11,6 +11,10 @@ namespace {
 class PlainStyler : public RowStyler {
 public:
     [[nodiscard]] const BaseAttributes& baseAttributes() const override { return m_base; }
+    [[nodiscard]] Color severityColor(LogSeverity /*severity*/) const override
+    {
+        return Color::system(SystemColor::Text);
+    }
     [[nodiscard]] std::vector<AttributeRun> runsOf(const AttributedRow& row) const override
     {
         return {AttributeRun{0, row.length(), RunAttributes()}};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/slim_scroll_bar.h"
 
+#include "ui/controls/marked_scroll_bar.h"
+
 #include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOptionSlider>
@@ -15,6 +17,8 @@ constexpr int kShortestSlider = 32;
 constexpr int kMargin = 2;
 constexpr double kRestingThickness = 6;
 constexpr double kHeldThickness = 8;
+constexpr int kMarkThickness = 2;
+constexpr int kMarkMargin = 1;
 
 bool isHorizontal(const QStyleOptionSlider& bar)
 {
@@ -40,6 +44,16 @@ Span sliderSpan(const QStyleOptionSlider& bar)
     const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
                                                       groove - length, bar.upsideDown);
     return {start, length};
+}
+
+// Below the slider, which lets them show through and leaves their ends free.
+void drawMarks(QPainter& painter, const QRect& track, const std::vector<ScrollBarMark>& marks)
+{
+    const int last = track.bottom() + 1 - kMarkThickness;
+    for (const ScrollBarMark& mark : marks) {
+        painter.fillRect(track.left() + kMarkMargin, std::min(track.top() + mark.pixel, last),
+                         track.width() - 2 * kMarkMargin, kMarkThickness, mark.color);
+    }
 }
 
 } // namespace
@@ -90,6 +104,9 @@ void drawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QWidg
     painter.fillRect(bar.rect, scrollBarBackground(bar.palette, widget));
     if (bar.maximum <= bar.minimum) {
         return;
+    }
+    if (const auto* const marked = qobject_cast<const MarkedScrollBar*>(widget)) {
+        drawMarks(painter, bar.rect, marked->marks());
     }
     const bool isOnSlider = bar.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
     const bool isHeld = isOnSlider && bar.state.testFlag(QStyle::State_Sunken);

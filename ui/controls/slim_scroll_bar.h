@@ -20,7 +20,7 @@ inline constexpr int kScrollBarThickness = 12;
 QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
 
 // Draws the bar on the background of the view that it scrolls: a slim rounded slider, wider and
-// stronger under the pointer and while it is dragged.
+// stronger under the pointer and while it is dragged, over the marks of a MarkedScrollBar.
 void drawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QWidget* widget);
 
 // What a view's background is under its bars.

@@ -128,6 +128,9 @@ bool LogTextView::layOutText(const AttributedString& text)
     bars = neededScrollBars(QSizeF(isWrapped() ? 0 : frame.width, frame.height), room);
     isOther |= layOutIn(room.clipBeside(bars), text);
     updateScrollBars(room.clipBeside(bars));
+    if (isOther) {
+        Q_EMIT laidOut();
+    }
     return isOther;
 }
 

@@ -87,6 +87,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     // Another text is shown, or the same one again with more rows; `former` is what was before.
     void textReplaced(const quillon::AttributedString& former);
+    // Rows stand elsewhere now, or others stand there.
+    void laidOut();
     // The selection or the caret, or both, have moved.
     void selectionChanged();
 

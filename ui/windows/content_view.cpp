@@ -6,6 +6,7 @@
 #include "platform/notification_center.h"
 #include "ui/log_text/log_text_accessible.h"
 #include "ui/log_text/log_text_view.h"
+#include "ui/windows/error_marks.h"
 #include "ui/windows/help_view.h"
 #include "ui/windows/log_hint.h"
 #include "ui/windows/status_overlay.h"
@@ -55,6 +56,7 @@ ContentView::ContentView(LogViewModel& viewModel, NotificationCenter& notificati
     // pressed the button is not to wait for that.
     connect(m_toolbar, &ToolbarRow::openRequested, this, &ContentView::presentOpenPanel,
             Qt::QueuedConnection);
+    showErrorMarks(*m_logView);
     makeAccessible(*m_logView);
     m_logView->setAccessibleName(tr("Contenu du log"));
     m_logView->setFocus();

@@ -72,6 +72,10 @@ StatusOverlay::StatusOverlay(LogViewModel& viewModel, QWidget* parent)
         m_announcement.trigger();
         placeLabels();
     }));
+    m_bindings.push_back(viewModel.isRecomputing.subscribe([this](bool isGoingOn) {
+        m_isSearching = isGoingOn;
+        m_announcement.trigger();
+    }));
     m_bindings.push_back(viewModel.path.subscribe([this](const std::optional<QString>& path) {
         m_path->setText(path ? tr("• %1").arg(*path) : QString());
         m_path->setVisible(path.has_value());
@@ -81,11 +85,12 @@ StatusOverlay::StatusOverlay(LogViewModel& viewModel, QWidget* parent)
 
 void StatusOverlay::announce()
 {
+    const QString news = m_isSearching ? tr("Recherche en cours…") : m_status->text();
     // Tells of the change only where it is one.
-    if (accessibleName() != m_status->text()) {
-        setAccessibleName(m_status->text());
+    if (accessibleName() != news) {
+        setAccessibleName(news);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-        QAccessibleAnnouncementEvent announcement(this, m_status->text());
+        QAccessibleAnnouncementEvent announcement(this, news);
         QAccessible::updateAccessibility(&announcement);
 #endif
     }

@@ -3,6 +3,7 @@
 
 #include "ui/log_text/log_text_view.h"
 #include "ui/windows/bottom_fade.h"
+#include "ui/windows/log_focus_ring.h"
 #include "ui/windows/log_hint.h"
 #include "ui/windows/status_overlay.h"
 
@@ -13,7 +14,7 @@ namespace quillon {
 
 TextArea::TextArea(LogTextView* logView, StatusOverlay* overlay, LogHint* hint, QWidget* parent)
     : QWidget(parent), m_logView(logView), m_fade(new BottomFade(this)), m_overlay(overlay),
-      m_hint(hint)
+      m_hint(hint), m_ring(new LogFocusRing(*logView, this))
 {
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
@@ -22,7 +23,7 @@ TextArea::TextArea(LogTextView* logView, StatusOverlay* overlay, LogHint* hint, 
     layout->addWidget(m_logView);
     // In this order, from the log up.
     for (QWidget* const over : {static_cast<QWidget*>(m_fade), static_cast<QWidget*>(m_overlay),
-                                static_cast<QWidget*>(m_hint)}) {
+                                static_cast<QWidget*>(m_hint), static_cast<QWidget*>(m_ring)}) {
         over->setParent(this);
         over->raise();
     }

@@ -6,12 +6,14 @@
 namespace quillon {
 
 class BottomFade;
+class LogFocusRing;
 class LogHint;
 class LogTextView;
 class StatusOverlay;
 
 // The log with the status laid over its bottom leading corner, beside the scroll bars, and the hint
-// over all of it. The log fades away below the status. It owns them all.
+// over all of it. The log fades away below the status, and is ringed while Tab has led to it. It
+// owns them all.
 class TextArea : public QWidget {
     Q_OBJECT
 
@@ -31,6 +33,7 @@ private:
     BottomFade* m_fade;
     StatusOverlay* m_overlay;
     LogHint* m_hint;
+    LogFocusRing* m_ring;
 };
 
 } // namespace quillon

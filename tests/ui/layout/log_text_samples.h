@@ -3,6 +3,7 @@
 
 #include "model/records/log_severity.h"
 #include "render/attributed_string.h"
+#include "render/highlight_preferences.h"
 #include "tests/support/random_text.h"
 #include "ui/layout/log_text_layout.h"
 #include "ui/theme/theme.h"
@@ -24,6 +25,10 @@ public:
     explicit SampleStyler(Runs runs = {}) : m_runs(std::move(runs)) {}
 
     [[nodiscard]] const BaseAttributes& baseAttributes() const override { return m_base; }
+    [[nodiscard]] Color severityColor(LogSeverity severity) const override
+    {
+        return preferenceOf(roleOf(severity)).fallback;
+    }
     [[nodiscard]] std::vector<AttributeRun> runsOf(const AttributedRow& row) const override
     {
         return m_runs ? m_runs(row)

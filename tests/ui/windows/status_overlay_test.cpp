@@ -98,6 +98,23 @@ TEST_F(StatusOverlayTest, IsAStatusBarThatScreenReadersHearOfOnceTheStatusHasSet
     EXPECT_FALSE(names.contains(QStringLiteral("b")));
 }
 
+TEST_F(StatusOverlayTest, ASearchThatGoesOnIsToldToScreenReadersAndThenItsCounts)
+{
+    const QAccessibleInterface* const accessible =
+        QAccessible::queryAccessibleInterface(&view.statusOverlay());
+    const auto isNamed = [accessible](const QString& name) {
+        return spinUntil([&] { return accessible->text(QAccessible::Name) == name; });
+    };
+    const QString counts = QStringLiteral("Lignes: 0 • Affichées: 0");
+    ASSERT_TRUE(isNamed(counts));
+    viewModel.isRecomputing.set(true);
+    EXPECT_TRUE(isNamed(QStringLiteral("Recherche en cours…")));
+    EXPECT_EQ(status().text(), counts);
+    // Also where the search has changed nothing.
+    viewModel.isRecomputing.set(false);
+    EXPECT_TRUE(isNamed(counts));
+}
+
 TEST_F(StatusOverlayTest, TheMouseGoesThroughIt)
 {
     EXPECT_TRUE(view.statusOverlay().testAttribute(Qt::WA_TransparentForMouseEvents));
