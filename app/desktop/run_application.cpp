@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QSettings>
 #include <QTranslator>
 #include <QWindow>
 
@@ -60,6 +61,14 @@ void introduceApplication()
     QApplication::setApplicationName(QStringLiteral("Quillon"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLON_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.quillon.Quillon"));
+}
+
+// The toolkit's own dialogs keep their widths, the folder last visited and a history of files in a
+// settings file of theirs. Where that cannot be there, they keep it for as long as the program
+// runs.
+void keepToolkitFromWriting()
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 }
 
 // The toolkit's own dialogs and context menus speak French too, where its translation is installed.
@@ -113,6 +122,7 @@ int runApplication(int& argc, char** argv, const CommandLine& commandLine)
     std::signal(SIGPIPE, SIG_IGN);
     const HandoverRequest request = handoverRequest(commandLine);
     introduceApplication();
+    keepToolkitFromWriting();
     if (!hasDisplay(argc, argv)) {
         const QString reason =
             QCoreApplication::translate("RunApplication", "aucun écran n’est accessible");

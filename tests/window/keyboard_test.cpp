@@ -5,8 +5,6 @@
 namespace quillon {
 namespace {
 
-const QString kOpenTitle = QStringLiteral("Ouvrir un fichier de log");
-
 class Keyboard : public WindowTest {
 protected:
     // What the keys before it opened is on the screen before what this opens.

@@ -7,6 +7,7 @@
 #include "tests/support/spin_until.h"
 #include "tests/window/window_fixture.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -66,7 +67,8 @@ protected:
     }
     [[nodiscard]] QStringList strangeChanges(const QuillonProcess& quillon) const
     {
-        const QStringList own{quillon.configuration().path(QString()),
+        const QStringList own{quillon.configuration().path(QStringLiteral("Quillon/")),
+                              quillon.configuration().path(QStringLiteral("Quillon\"")),
                               QStringLiteral("\"/dev/null\""),
                               // The toolkit makes sure that the folder of its sockets is there.
                               QStringLiteral(" = -1 EEXIST")};
@@ -154,6 +156,28 @@ TEST_F(LeastPrivilege, TheSupportSiteStartsTheBrowserAndNothingElse)
     ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
     EXPECT_EQ(opened.readAll(), QByteArray("https://example.org/quillon\n"));
     expectNothingStrange(quillon, {browser});
+}
+
+// They keep what was done with them in a settings file of the toolkit, if they are let.
+TEST_F(LeastPrivilege, TheToolkitsOwnDialogsWriteNothing)
+{
+    const QString log = folder().write(kLog, "a\n");
+    QuillonProcess& quillon = startTraced({}, kEmptyTitle);
+    desktop().press(QStringLiteral("ctrl+o"));
+    awaitActive(kOpenTitle);
+    desktop().press(QStringLiteral("Escape"));
+    awaitActive(kEmptyTitle);
+    desktop().press(QStringLiteral("ctrl+o"));
+    awaitActive(kOpenTitle);
+    desktop().type(log);
+    desktop().press(QStringLiteral("Return"));
+    awaitActive(kLogTitle);
+    desktop().press(QStringLiteral("ctrl+q"));
+    EXPECT_EQ(quillon.wait(), 0);
+    expectNothingStrange(quillon);
+    EXPECT_EQ(QDir(quillon.configuration().path(QString()))
+                  .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("Quillon")});
 }
 
 TEST_F(LeastPrivilege, WithoutASessionBusNoneIsStarted)

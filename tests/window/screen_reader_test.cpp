@@ -49,19 +49,23 @@ QStringList namesOf(const QList<AccessibleNode>& nodes)
 
 class ScreenReading : public WindowTest {
 protected:
-    void pressUntilFocused(const QString& key, const QString& name)
-    {
-        desktop().press(key);
-        ASSERT_TRUE(spinUntil([&] { return announcedFocus() == name; }))
-            << qPrintable(key) << " leads to " << qPrintable(announcedFocus()) << " and not to "
-            << qPrintable(name);
-    }
     [[nodiscard]] bool hasHeard(const char* type, int detail, const QString& name) const
     {
         const auto heard = screenReader().heard(running().process().processId());
         return std::any_of(heard.begin(), heard.end(), [&](const AccessibleEvent& event) {
             return event.type == QLatin1StringView(type) && event.detail == detail &&
                    event.name == name;
+        });
+    }
+    // Waits until the status bar has said so.
+    [[nodiscard]] bool isToldByStatusBar(const QString& news) const
+    {
+        return spinUntil([&] {
+            const auto heard = screenReader().heard(running().process().processId());
+            return std::any_of(heard.begin(), heard.end(), [&](const AccessibleEvent& event) {
+                return event.type == QLatin1StringView("object:property-change:accessible-name") &&
+                       event.role == QLatin1StringView("status bar") && event.name == news;
+            });
         });
     }
     // Whether it was announced that this text has come to, or gone from, that place of the log.
@@ -143,10 +147,10 @@ TEST_F(ScreenReading, TabGoesThroughTheControlsInVisualOrder)
     awaitRows(QStringLiteral("1\ta\n"));
     EXPECT_TRUE(element(mainWindow(), QStringLiteral("document frame"), kContent).is("focused"));
     for (const QString& name : kToolbar) {
-        pressUntilFocused(QStringLiteral("Tab"), name);
+        pressToFocus(QStringLiteral("Tab"), name);
     }
-    pressUntilFocused(QStringLiteral("Tab"), kContent);
-    pressUntilFocused(QStringLiteral("shift+Tab"), kClear);
+    pressToFocus(QStringLiteral("Tab"), kContent);
+    pressToFocus(QStringLiteral("shift+Tab"), kClear);
 }
 
 TEST_F(ScreenReading, TheLogGivesItsRowsAsReadOnlyText)
@@ -199,7 +203,7 @@ TEST_F(ScreenReading, TheSpaceBarTurnsATogglesStateWhichIsAnnounced)
     startWithLog("PHP Warning:  a\nb\n");
     awaitRows(QStringLiteral("1\tPHP Warning:  a\n2\tb\n"));
     for (const QString& name : {kOpen, kFollowToggle, kWrap, kTextSize, kDeprecated, kWarning}) {
-        pressUntilFocused(QStringLiteral("Tab"), name);
+        pressToFocus(QStringLiteral("Tab"), name);
     }
     desktop().press(QStringLiteral("space"));
     awaitRows(QStringLiteral("2\tb\n"));
@@ -247,14 +251,18 @@ TEST_F(ScreenReading, TheCountsOfASearchAreToldByTheStatusBar)
     awaitRows(QStringLiteral("1\tone\n2\ttwo\n"));
     desktop().press(QStringLiteral("ctrl+f"));
     desktop().type(QStringLiteral("tw"));
-    EXPECT_TRUE(spinUntil([this] {
-        const auto heard = screenReader().heard(running().process().processId());
-        return std::any_of(heard.begin(), heard.end(), [](const AccessibleEvent& event) {
-            return event.type == QLatin1StringView("object:property-change:accessible-name") &&
-                   event.role == QLatin1StringView("status bar") &&
-                   event.name == QStringLiteral("Lignes: 2 • Affichées: 1");
-        });
-    }));
+    EXPECT_TRUE(isToldByStatusBar(QStringLiteral("Lignes: 2 • Affichées: 1")));
+}
+
+TEST_F(ScreenReading, ASearchThatTakesLongIsToldByTheStatusBarAndThenItsCounts)
+{
+    // Each line takes as long as any may: all of them more than anyone wants to wait.
+    startWithLog((QByteArray(60, 'a') + '\n').repeated(900));
+    desktop().press(QStringLiteral("ctrl+f"));
+    desktop().type(QStringLiteral("(a+)+b"));
+    EXPECT_TRUE(isToldByStatusBar(QStringLiteral("Recherche en cours…")));
+    desktop().press(QStringLiteral("Escape"));
+    EXPECT_TRUE(isToldByStatusBar(QStringLiteral("Lignes: 900 • Affichées: 900")));
 }
 
 TEST_F(ScreenReading, EachWindowSaysThatItIsOne)

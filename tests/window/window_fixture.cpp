@@ -123,6 +123,14 @@ QString WindowTest::announcedFocus() const
     return focus;
 }
 
+void WindowTest::pressToFocus(const QString& key, const QString& name) const
+{
+    desktop().press(key);
+    ASSERT_TRUE(await([&] { return announcedFocus() == name; }))
+        << qPrintable(key) << " leads to " << qPrintable(announcedFocus()) << " and not to "
+        << qPrintable(name);
+}
+
 void WindowTest::awaitRows(const QString& rows) const
 {
     ASSERT_TRUE(await([&] { return this->rows() == rows; }))

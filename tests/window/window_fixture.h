@@ -19,6 +19,7 @@ namespace quillon {
 
 inline const QString kEmptyTitle = QStringLiteral("Quillon");
 inline const QString kHelpTitle = QStringLiteral("Aide Quillon");
+inline const QString kOpenTitle = QStringLiteral("Ouvrir un fichier de log");
 inline const QString kPreferencesTitle = QStringLiteral("Préférences");
 inline const QString kLog = QStringLiteral("php.log");
 inline const QString kLogTitle = QStringLiteral("php.log — Quillon");
@@ -59,6 +60,9 @@ protected:
     [[nodiscard]] QString status(const QString& title = kLogTitle) const;
     // The element that the running program last announced as having the keyboard.
     [[nodiscard]] QString announcedFocus() const;
+    // Presses a key that leads the keyboard to the element of that name, and waits until it is
+    // announced there.
+    void pressToFocus(const QString& key, const QString& name) const;
     // Waits until the log shows these rows and nothing else.
     void awaitRows(const QString& rows) const;
     // Waits until a toggle of that name is on or off in the main window.

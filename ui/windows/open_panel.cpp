@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/windows/open_panel.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPointer>
 #include <QTreeView>
 
@@ -56,6 +60,33 @@ void showColumnsWhole(QFileDialog& dialog)
     }
 }
 
+// Closes the list of names to choose from as Return is pressed, before that closes the dialog.
+// While such a list is open the toolkit takes no notice of which window has the keyboard, and would
+// go on as if the main window had none: no ring, nothing told to screen readers.
+class NameListCloser : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+                static_cast<QWidget*>(watched)->hide();
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+void closeNameListOnReturn(QFileDialog& dialog)
+{
+    const auto* const name = dialog.findChild<QLineEdit*>();
+    if (name != nullptr && name->completer() != nullptr) {
+        name->completer()->popup()->installEventFilter(new NameListCloser(&dialog));
+    }
+}
+
 // Wide enough for a folder's columns; a desktop's dialog has a size of its own.
 constexpr QSize kDialogSize(800, 500);
 
@@ -67,6 +98,7 @@ std::optional<QUrl> runOpenPanel(const OpenPanelRequest& request, QWidget* windo
     dialog.setNameFilters(nameFilters(request));
     labelFallbackDialog(dialog);
     showColumnsWhole(dialog);
+    closeNameListOnReturn(dialog);
     dialog.resize(kDialogSize);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedUrls().isEmpty()) {
         return std::nullopt;
