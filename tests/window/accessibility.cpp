@@ -91,6 +91,17 @@ bool ScreenReader::act(qint64 processId, const QString& role, const QString& nam
         .toBool();
 }
 
+bool ScreenReader::enter(qint64 processId, const QString& role, const QString& name,
+                         const QString& text)
+{
+    return ask({{QStringLiteral("request"), QStringLiteral("enter")},
+                {QStringLiteral("pid"), processId},
+                {QStringLiteral("role"), role},
+                {QStringLiteral("name"), name},
+                {QStringLiteral("text"), text}})
+        .toBool();
+}
+
 void ScreenReader::listen()
 {
     ask({{QStringLiteral("request"), QStringLiteral("listen")}});

@@ -56,6 +56,10 @@ public:
     // program. Whether there is one, and the program answered at once.
     bool act(qint64 processId, const QString& role, const QString& name);
 
+    // Gives the first element of that role and name another text, as dictation does. Whether there
+    // is one that takes it.
+    bool enter(qint64 processId, const QString& role, const QString& name, const QString& text);
+
     // Collects the changes of state that programs announce from here on.
     void listen();
     [[nodiscard]] QList<AccessibleEvent> heard(qint64 processId);

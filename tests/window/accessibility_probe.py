@@ -12,6 +12,9 @@ Each line of standard input is a request in JSON, each answer one line of standa
                                                      does what the element is there for; true once
                                                      the program has answered
 
+  {"request": "enter", "pid": 12, "role": "text", "name": "Recherche", "text": "a"}
+                                                     gives an element that text for its own
+
 Trees end at lists and tables, which hold whole folders in a file dialog, and at the menu bar.
 """
 import json
@@ -82,6 +85,8 @@ def tree(request):
 
 
 def find(node, role, name):
+    if node is None:
+        return None
     if node.get_role_name() == role and node.get_name() == name:
         return node
     return next(filter(None, (find(child, role, name) for child in children(node))), None)
@@ -91,6 +96,11 @@ def act(request):
     root = application(request["pid"])
     found = find(root, request["role"], request["name"]) if root is not None else None
     return found is not None and Atspi.Action.do_action(found, 0)
+
+
+def enter(request):
+    found = find(application(request["pid"]), request["role"], request["name"])
+    return found is not None and Atspi.EditableText.set_text_contents(found, request["text"])
 
 
 def collect(event):
@@ -131,8 +141,9 @@ def answer(_source, _condition, loop):
         loop.quit()
         return False
     request = json.loads(line)
+    requests = {"tree": tree, "listen": listen, "events": events, "act": act, "enter": enter}
     try:
-        result = {"tree": tree, "listen": listen, "events": events, "act": act}[request["request"]](request)
+        result = requests[request["request"]](request)
     except GLib.Error:
         # The program is starting or ending; whoever asks waits and asks again.
         result = None

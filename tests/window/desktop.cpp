@@ -3,7 +3,6 @@
 
 #include "tests/support/spin_until.h"
 
-#include <QFile>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -27,43 +26,9 @@ QString propertyValue(const QByteArray& output)
 
 Desktop::Desktop(QSize screen)
 {
-    // Not the user's: a program must neither find their settings nor their bus and desktop.
-    for (const char* const name : {"XDG_CURRENT_DESKTOP", "XDG_SESSION_TYPE", "WAYLAND_DISPLAY",
-                                   "DESKTOP_SESSION", "QT_QPA_PLATFORMTHEME", "XMODIFIERS"}) {
-        m_environment.remove(QString::fromLatin1(name));
-    }
-    QFile(m_folder.path(QString()))
-        .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_folder.path(QString()));
-    m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
-                         m_folder.path(QStringLiteral("config")));
-    m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     startScreen(screen);
-    startBus();
+    m_session.startBus();
     startWindowManager();
-}
-
-QuillonProcess::Environment Desktop::variables() const
-{
-    QuillonProcess::Environment variables{
-        {QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb")},
-        {QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1")},
-        {QStringLiteral("QUILLON_APPEARANCE"), QStringLiteral("light")},
-        {QStringLiteral("XDG_CURRENT_DESKTOP"), QString()},
-        {QStringLiteral("QT_QPA_PLATFORMTHEME"), QString()},
-    };
-    // The keyboard library copies names out of the window system's messages by their length, which
-    // a check of whole strings takes for reading past their end. Its leaks are told apart by who
-    // asked for the memory, some calls up, through libraries without frame pointers.
-    const QString asan = QStringLiteral("ASAN_OPTIONS");
-    variables.append({asan, m_environment.value(asan) + QStringLiteral(":strict_string_checks=0"
-                                                                       ":fast_unwind_on_malloc=0"
-                                                                       ":malloc_context_size=5")});
-    for (const char* const name : {"DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR"}) {
-        const QString variable = QString::fromLatin1(name);
-        variables.append({variable, m_environment.value(variable)});
-    }
-    return variables;
 }
 
 QList<DesktopWindow> Desktop::windows() const
@@ -198,21 +163,15 @@ void Desktop::startScreen(QSize screen)
                     QStringLiteral("0"),
                     QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height()),
                     QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")},
-        m_environment);
-    m_environment.insert(QStringLiteral("DISPLAY"),
-                         QStringLiteral(":") + QString::fromLatin1(m_screen->readLine()));
-}
-
-void Desktop::startBus()
-{
-    m_bus = std::make_unique<PrivateBus>(m_environment);
-    m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), m_bus->address());
+        environment());
+    m_session.environment().insert(QStringLiteral("DISPLAY"),
+                                   QStringLiteral(":") + QString::fromLatin1(m_screen->readLine()));
 }
 
 void Desktop::startWindowManager()
 {
     m_windowManager =
-        std::make_unique<HelperProcess>(QStringLiteral("openbox"), QStringList(), m_environment);
+        std::make_unique<HelperProcess>(QStringLiteral("openbox"), QStringList(), environment());
     EXPECT_TRUE(spinUntil([this] {
         return ask(kXprop, {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
             .contains("0x");
@@ -221,7 +180,7 @@ void Desktop::startWindowManager()
 
 QByteArray Desktop::ask(const QString& tool, const QStringList& arguments) const
 {
-    return outputOf(tool, arguments, m_environment);
+    return outputOf(tool, arguments, environment());
 }
 
 int pixelsOfColor(const QImage& picture, const QColor& color)

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/app/print/quillon_process.h"
 #include "tests/support/helper_process.h"
-#include "tests/support/private_bus.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/window/test_session.h"
 
 #include <QColor>
 #include <QImage>
@@ -33,8 +31,11 @@ public:
     explicit Desktop(QSize screen = QSize(1400, 1000));
 
     // What a program needs to come up here.
-    [[nodiscard]] QuillonProcess::Environment variables() const;
-    [[nodiscard]] const QProcessEnvironment& environment() const { return m_environment; }
+    [[nodiscard]] QuillonProcess::Environment variables() const
+    {
+        return m_session.variables(QStringLiteral("xcb"));
+    }
+    [[nodiscard]] const QProcessEnvironment& environment() const { return m_session.environment(); }
 
     // The windows on the screen, oldest first.
     [[nodiscard]] QList<DesktopWindow> windows() const;
@@ -69,14 +70,11 @@ public:
 private:
     [[nodiscard]] QString selection(const QString& name) const;
     void startScreen(QSize screen);
-    void startBus();
     void startWindowManager();
     QByteArray ask(const QString& tool, const QStringList& arguments) const;
 
-    TemporaryFolder m_folder;
-    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    TestSession m_session;
     std::unique_ptr<HelperProcess> m_screen;
-    std::unique_ptr<PrivateBus> m_bus;
     std::unique_ptr<HelperProcess> m_windowManager;
 };
 

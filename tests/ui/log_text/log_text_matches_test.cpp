@@ -43,6 +43,10 @@ public:
     explicit SlowStyler(std::shared_ptr<Search> search) : m_search(std::move(search)) {}
 
     [[nodiscard]] const BaseAttributes& baseAttributes() const override { return m_base; }
+    [[nodiscard]] Color severityColor(LogSeverity /*severity*/) const override
+    {
+        return Color::system(SystemColor::Text);
+    }
     [[nodiscard]] std::vector<AttributeRun> runsOf(const AttributedRow& row) const override
     {
         return SlowLook(m_search).runsIn(TextRange{0, row.length()});
