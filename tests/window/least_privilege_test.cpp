@@ -69,6 +69,8 @@ protected:
     {
         const QStringList own{quillon.configuration().path(QStringLiteral("Quillon/")),
                               quillon.configuration().path(QStringLiteral("Quillon\"")),
+                              // The stand-in for a browser notes there what it was to open.
+                              quillon.configuration().path(QStringLiteral("opened")),
                               QStringLiteral("\"/dev/null\""),
                               // The toolkit makes sure that the folder of its sockets is there.
                               QStringLiteral(" = -1 EEXIST")};

@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-// A thin line across a scroll bar's track, so many pixels from its beginning.
+// A thin line at a scroll bar's track, so many pixels from its beginning.
 struct ScrollBarMark {
     int pixel = 0;
     QColor color;

@@ -18,6 +18,7 @@ constexpr int kMargin = 2;
 constexpr double kRestingThickness = 6;
 constexpr double kHeldThickness = 8;
 constexpr int kMarkThickness = 2;
+constexpr int kMarkWidth = 4;
 constexpr int kMarkMargin = 1;
 
 bool isHorizontal(const QStyleOptionSlider& bar)
@@ -46,13 +47,15 @@ Span sliderSpan(const QStyleOptionSlider& bar)
     return {start, length};
 }
 
-// Below the slider, which lets them show through and leaves their ends free.
+// At the outer edge, below the slider, which lets them show through: however many there are, most
+// of the slider stays as it is.
 void drawMarks(QPainter& painter, const QRect& track, const std::vector<ScrollBarMark>& marks)
 {
+    const int left = track.right() + 1 - kMarkMargin - kMarkWidth;
     const int last = track.bottom() + 1 - kMarkThickness;
     for (const ScrollBarMark& mark : marks) {
-        painter.fillRect(track.left() + kMarkMargin, std::min(track.top() + mark.pixel, last),
-                         track.width() - 2 * kMarkMargin, kMarkThickness, mark.color);
+        painter.fillRect(left, std::min(track.top() + mark.pixel, last), kMarkWidth, kMarkThickness,
+                         mark.color);
     }
 }
 

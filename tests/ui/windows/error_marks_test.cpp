@@ -58,8 +58,8 @@ TEST_F(ErrorMarks, FatalAndErrorRowsHaveTheirColoursOnTheTrack)
     temporary.defaults.setObject(QStringLiteral("#007800"), preference_keys::kColorError);
     open(amid("PHP Fatal error:  a\n", "PHP Parse error:  b\n"));
     ASSERT_EQ(bar().marks().size(), 2U);
-    EXPECT_GT(pixelsOf(QColor(0, 0, 0xC8)), 10);
-    EXPECT_GT(pixelsOf(QColor(0, 0x78, 0)), 10);
+    EXPECT_GT(pixelsOf(QColor(0, 0, 0xC8)), 3);
+    EXPECT_GT(pixelsOf(QColor(0, 0x78, 0)), 3);
 }
 
 TEST_F(ErrorMarks, RowsThatAreNotShownHaveNone)
