@@ -77,8 +77,7 @@ TEST_F(Following, CtrlQEndsTheProgramWhateverIsOpen)
     QuillonProcess& quillon = startWithLog("a\n");
     desktop().press(QStringLiteral("F1"));
     awaitActive(kHelpTitle);
-    desktop().activate(desktop().windowTitled(kLogTitle));
-    awaitActive(kLogTitle);
+    bringForward(kLogTitle);
     desktop().press(QStringLiteral("ctrl+q"));
     EXPECT_EQ(quillon.wait(), 0);
 }
@@ -89,8 +88,7 @@ TEST_F(Following, ClosingTheMainWindowStopsReadingAndLeavesTheFollowToggleOn)
     awaitRows(QStringLiteral("1\ta\n"));
     desktop().press(QStringLiteral("ctrl+comma"));
     awaitActive(kPreferencesTitle);
-    desktop().activate(desktop().windowTitled(kLogTitle));
-    awaitActive(kLogTitle);
+    bringForward(kLogTitle);
     closeByWindowManager(kLogTitle);
     awaitWindows({kPreferencesTitle});
     writeFromOutside(QStringLiteral("b"));

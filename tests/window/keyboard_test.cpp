@@ -54,8 +54,7 @@ TEST_F(Keyboard, F1AndCtrlQuestionMarkShowTheSameOneHelpWindow)
     start({}, kEmptyTitle);
     openHelp();
     const QString help = desktop().windowTitled(kHelpTitle);
-    desktop().activate(desktop().windowTitled(kEmptyTitle));
-    awaitActive(kEmptyTitle);
+    bringForward(kEmptyTitle);
     desktop().press(QStringLiteral("ctrl+question"));
     awaitActive(kHelpTitle);
     awaitWindows({kEmptyTitle, kHelpTitle});
@@ -88,8 +87,7 @@ TEST_F(Keyboard, ShortcutsOfTheMenuWorkInTheOtherWindows)
     awaitActive(kOpenTitle);
     desktop().press(QStringLiteral("Escape"));
     awaitActive(kLogTitle);
-    desktop().activate(desktop().windowTitled(kHelpTitle));
-    awaitActive(kHelpTitle);
+    bringForward(kHelpTitle);
     desktop().press(QStringLiteral("ctrl+f"));
     awaitActive(kLogTitle);
     EXPECT_TRUE(spinUntil([this] {
@@ -102,8 +100,7 @@ TEST_F(Keyboard, ShortcutsOfTheMenuWorkInTheOtherWindowsWhileTheMainWindowIsClos
 {
     QuillonProcess& quillon = startWithLog("a\n");
     openHelp();
-    desktop().activate(desktop().windowTitled(kLogTitle));
-    awaitActive(kLogTitle);
+    bringForward(kLogTitle);
     desktop().press(QStringLiteral("ctrl+w"));
     awaitWindows({kHelpTitle});
     awaitActive(kHelpTitle);
@@ -112,8 +109,7 @@ TEST_F(Keyboard, ShortcutsOfTheMenuWorkInTheOtherWindowsWhileTheMainWindowIsClos
     awaitWindows({kLogTitle, kHelpTitle, kOpenTitle});
     desktop().press(QStringLiteral("Escape"));
     awaitActive(kLogTitle);
-    desktop().activate(desktop().windowTitled(kHelpTitle));
-    awaitActive(kHelpTitle);
+    bringForward(kHelpTitle);
     desktop().press(QStringLiteral("ctrl+q"));
     EXPECT_EQ(quillon.wait(), 0);
 }
@@ -123,8 +119,7 @@ TEST_F(Keyboard, CtrlCommaOpensThePreferencesOnce)
     start({}, kEmptyTitle);
     desktop().press(QStringLiteral("ctrl+comma"));
     awaitActive(kPreferencesTitle);
-    desktop().activate(desktop().windowTitled(kEmptyTitle));
-    awaitActive(kEmptyTitle);
+    bringForward(kEmptyTitle);
     desktop().press(QStringLiteral("ctrl+comma"));
     awaitActive(kPreferencesTitle);
     awaitWindows({kEmptyTitle, kPreferencesTitle});

@@ -70,6 +70,21 @@ void WindowTest::awaitActive(const QString& title) const
         << qPrintable(desktop().activeTitle()) << "”";
 }
 
+void WindowTest::bringForward(const QString& title) const
+{
+    // What is asked while the window manager moves the focus, as it does for each new window, is
+    // lost; a user would click again.
+    constexpr int kAttempts = 10;
+    const auto isActive = [&title] {
+        return desktop().activeTitle() == title;
+    };
+    for (int attempt = 0; attempt < kAttempts && !isActive(); ++attempt) {
+        desktop().activate(desktop().windowTitled(title));
+        static_cast<void>(spinUntil(isActive, std::chrono::seconds(2)));
+    }
+    awaitActive(title);
+}
+
 void WindowTest::awaitWindows(QStringList titles) const
 {
     titles.sort();

@@ -46,6 +46,8 @@ protected:
 
     // Waits until that window has the keyboard.
     void awaitActive(const QString& title) const;
+    // Gives the keyboard to that window of several, as a click on it does.
+    void bringForward(const QString& title) const;
     // Waits until these windows are on the screen, in any order, and no others.
     void awaitWindows(QStringList titles) const;
 
