@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/ui/theme/text_surfaces.h"
 #include "ui/theme/contrast.h"
 #include "ui/theme/palette.h"
 #include "ui/theme/theme.h"
@@ -29,19 +30,8 @@ TEST_P(HighContrast, IsRecognisedFromItsPalette)
 
 TEST_P(HighContrast, GivesTextsSevenToOneAlsoWhileTheyAreDisabled)
 {
-    using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
-    constexpr std::array kPairs{
-        Pair{QPalette::WindowText, QPalette::Window},
-        Pair{QPalette::Text, QPalette::Base},
-        Pair{QPalette::ButtonText, QPalette::Button},
-        Pair{QPalette::ToolTipText, QPalette::ToolTipBase},
-        Pair{QPalette::PlaceholderText, QPalette::Base},
-        Pair{QPalette::HighlightedText, QPalette::Highlight},
-        Pair{QPalette::Link, QPalette::Window},
-        Pair{QPalette::LinkVisited, QPalette::Window},
-    };
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        for (const auto& [text, surface] : kPairs) {
+        for (const auto& [text, surface] : kTextsOnSurfaces) {
             EXPECT_GE(contrastRatio(palette.color(group, text), palette.color(group, surface)), 7.0)
                 << "group " << group << ", role " << text << " on role " << surface;
         }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/ui/theme/text_surfaces.h"
 #include "ui/theme/contrast.h"
 #include "ui/theme/theme.h"
 
@@ -7,7 +8,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -48,20 +48,8 @@ TEST_P(EveryAppearance, HasEveryRoleInEveryGroup)
 
 TEST_P(EveryAppearance, KeepsTextsReadableOnTheirSurfaces)
 {
-    using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
-    constexpr std::array kPairs{
-        Pair{QPalette::WindowText, QPalette::Window},
-        Pair{QPalette::Text, QPalette::Base},
-        Pair{QPalette::Text, QPalette::AlternateBase},
-        Pair{QPalette::ButtonText, QPalette::Button},
-        Pair{QPalette::ToolTipText, QPalette::ToolTipBase},
-        Pair{QPalette::PlaceholderText, QPalette::Base},
-        Pair{QPalette::HighlightedText, QPalette::Highlight},
-        Pair{QPalette::Link, QPalette::Window},
-        Pair{QPalette::LinkVisited, QPalette::Window},
-    };
     const QPalette palette = paletteFor(GetParam());
-    for (const auto& [text, surface] : kPairs) {
+    for (const auto& [text, surface] : kTextsOnSurfaces) {
         EXPECT_GE(contrastRatio(palette.color(text), palette.color(surface)), 4.5)
             << "role " << text << " on role " << surface;
     }
