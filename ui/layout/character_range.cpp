@@ -24,20 +24,6 @@ constexpr bool isWithin(char16_t character, char16_t first, char16_t last)
     return static_cast<char16_t>(character - first) <= static_cast<char16_t>(last - first);
 }
 
-CharacterRange rangeOf(char16_t character)
-{
-    if (isWithin(character, kFirstAscii, kLastAscii)) {
-        return CharacterRange::Ascii;
-    }
-    if (isWithin(character, kFirstLatin, kLastLatin) && character != kSoftHyphen) {
-        return CharacterRange::Latin;
-    }
-    if (isWithin(character, kFirstTypographic, kLastTypographic) || character == kEllipsis) {
-        return CharacterRange::Typographic;
-    }
-    return CharacterRange::Any;
-}
-
 } // namespace
 
 qsizetype asciiBlocks(QStringView text)
@@ -54,6 +40,21 @@ qsizetype asciiBlocks(QStringView text)
     return at;
 }
 
+CharacterRange characterRangeOf(QChar of)
+{
+    const char16_t character = of.unicode();
+    if (isWithin(character, kFirstAscii, kLastAscii)) {
+        return CharacterRange::Ascii;
+    }
+    if (isWithin(character, kFirstLatin, kLastLatin) && character != kSoftHyphen) {
+        return CharacterRange::Latin;
+    }
+    if (isWithin(character, kFirstTypographic, kLastTypographic) || character == kEllipsis) {
+        return CharacterRange::Typographic;
+    }
+    return CharacterRange::Any;
+}
+
 CharacterRange characterRangeOf(QStringView text)
 {
     CharacterRange range = CharacterRange::Ascii;
@@ -61,7 +62,7 @@ CharacterRange characterRangeOf(QStringView text)
     while (!rest.isEmpty() && range != CharacterRange::Any) {
         const qsizetype count = std::min(rest.size(), kUtf16BlockSize);
         for (const QChar character : rest.first(count)) {
-            range = std::max(range, rangeOf(character.unicode()));
+            range = std::max(range, characterRangeOf(character));
         }
         rest = rest.sliced(count);
         rest = rest.sliced(asciiBlocks(rest));

@@ -18,6 +18,7 @@ enum class CharacterRange : std::uint8_t {
 
 // The range of a text. A long text of range Any is not read to its end.
 CharacterRange characterRangeOf(QStringView text);
+CharacterRange characterRangeOf(QChar character);
 
 // The length of the text's beginning that is of range Ascii, in whole blocks of eight UTF-16 units,
 // which are looked at together.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/layout/word_line_breaking.h"
 
+#include "platform/utf16_block.h"
 #include "ui/layout/break_opportunities.h"
 #include "ui/layout/character_range.h"
 #include "ui/layout/monospace_metrics.h"
@@ -78,7 +79,12 @@ bool WordLineBreaker::Walk::take(QStringView text, qsizetype asciiLength)
 {
     WordWidths& words = m_metrics.words();
     QChar::Script script = words.scriptAtStart(text);
-    for (qsizetype at = 0; at < text.size();) {
+    qsizetype at = 0;
+    if (!isPlain(script)) {
+        at = spacesEnd(text, 0);
+        m_spaces = at * words.spaceIn(script);
+    }
+    while (at < text.size()) {
         if (isPlain(script)) {
             const qsizetype unusual = firstUnusual(text, std::max(at, asciiLength));
             const qsizetype space = text.first(unusual).lastIndexOf(u' ');
@@ -106,9 +112,14 @@ bool WordLineBreaker::Walk::take(QStringView text, qsizetype asciiLength)
 
 qsizetype WordLineBreaker::Walk::firstUnusual(QStringView text, qsizetype from) const
 {
-    qsizetype at = from + asciiBlocks(text.sliced(from));
-    while (at < text.size() && m_metrics.isUniform(text.sliced(at, 1))) {
-        ++at;
+    qsizetype at = from;
+    qsizetype blockEnd = at;
+    while (at == blockEnd && at < text.size()) {
+        at += asciiBlocks(text.sliced(at));
+        blockEnd = std::min(text.size(), at + kUtf16BlockSize);
+        while (at < blockEnd && m_metrics.isUniform(characterRangeOf(text[at]))) {
+            ++at;
+        }
     }
     return at;
 }

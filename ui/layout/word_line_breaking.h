@@ -15,8 +15,8 @@ class MonospaceMetrics;
 // What a text takes whose lines were broken by the widths of its words.
 struct WordLines {
     qsizetype count = 1;
-    // The width of the widest line without the spaces at its end: no less than a text layout
-    // makes it.
+    // The width of the widest line without the spaces at its end. Lines of that width hold the
+    // text as well.
     Fixed widest = 0;
     // The width of the whole text on one line without the spaces at its end: what a text layout
     // makes it where lines are not broken, where they are, no more than that.

@@ -66,14 +66,14 @@ QChar::Script WordWidths::scriptAtStart(QStringView text)
 
 const MeasuredWord& WordWidths::measure(QStringView word, QChar::Script script)
 {
-    Words& words = m_words[script];
+    Words& words = m_words[static_cast<std::size_t>(script)];
     const std::u16string_view key(word.utf16(), static_cast<std::size_t>(word.size()));
     if (const auto known = words.find(key); known != words.end()) {
         return known->second;
     }
     if (++m_count > kMaximumKept) {
-        for (auto& [each, kept] : m_words) {
-            kept.clear();
+        for (Words& each : m_words) {
+            each.clear();
         }
         m_count = 1;
     }
@@ -113,16 +113,17 @@ MeasuredWord WordWidths::findMeasure(QStringView word, QChar::Script script)
         }
     }
     m_layout->endLayout();
-    measure.space = spaceIn(measure.script, m_letters[measure.script]);
+    measure.space = spaceIn(measure.script);
     return measure;
 }
 
-Fixed WordWidths::spaceIn(QChar::Script script, const QString& letter)
+Fixed WordWidths::spaceIn(QChar::Script script)
 {
     const auto known = m_spaces.find(script);
     if (known != m_spaces.end()) {
         return known->second;
     }
+    const QString letter = m_letters[script];
     const Fixed space = advanceOf(letter + u' ' + letter) - 2 * advanceOf(letter);
     return m_spaces[script] = space;
 }

@@ -54,6 +54,9 @@ public:
     // where there is none.
     QChar::Script scriptAtStart(QStringView text);
 
+    // The advance of a space within text of that script, as measure() has it.
+    [[nodiscard]] Fixed spaceIn(QChar::Script script);
+
 private:
     struct Hash {
         using is_transparent = void;
@@ -65,11 +68,10 @@ private:
     using Words = std::unordered_map<std::u16string, MeasuredWord, Hash, std::equal_to<>>;
 
     [[nodiscard]] MeasuredWord findMeasure(QStringView word, QChar::Script script);
-    [[nodiscard]] Fixed spaceIn(QChar::Script script, const QString& letter);
     [[nodiscard]] Fixed advanceOf(const QString& text);
 
     std::unique_ptr<QTextLayout> m_layout; // one for all
-    std::map<QChar::Script, Words> m_words;
+    std::vector<Words> m_words{QChar::ScriptCount}; // by script
     std::size_t m_count = 0;
     // Of each script met with, a letter to begin a text in it with, and the advance of a space.
     std::map<QChar::Script, QString> m_letters;

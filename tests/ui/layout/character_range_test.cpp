@@ -29,6 +29,7 @@ TEST(CharacterRange, OfASingleCharacterIsTheSetThatItBelongsTo)
         const QChar character(unit);
         const CharacterRange expected = plainRangeOf(character.unicode());
         ASSERT_EQ(characterRangeOf(QStringView(&character, 1)), expected) << std::hex << unit;
+        ASSERT_EQ(characterRangeOf(character), expected) << std::hex << unit;
     }
 }
 

@@ -40,7 +40,10 @@ protected:
         if (columns == 0) {
             ASSERT_EQ(lines->oneLine, expected.widestLine) << ::testing::PrintToString(text);
         } else if (!text.endsWith(u' ')) { // a text layout counts it where there is room
-            ASSERT_GE(lines->widest, expected.widestLine) << ::testing::PrintToString(text);
+            const PieceShaper narrower(*metrics, lines->widest);
+            ASSERT_EQ(narrower.measure(text, ShapedPiece{0, text.size(), 1}).lineCount,
+                      lines->count)
+                << columns << ' ' << lines->widest << ' ' << ::testing::PrintToString(text);
             ASSERT_LE(lines->oneLine, expected.oneLine) << ::testing::PrintToString(text);
         }
     }
@@ -86,6 +89,19 @@ TEST_P(WordLineBreakingInScript, GivesTheLinesAndWidthsOfATextLayout)
         const QString text = random.join(pieces, 16) + GetParam().pieces.front();
         for (const qsizetype columns : {0, 14, 23, 47, 80, 121}) {
             expectAsLaidOut(i % 2 == 0 ? text : text.trimmed(), columns);
+        }
+    }
+    EXPECT_GT(told, asked * 3 / 4) << "of " << asked;
+}
+
+TEST_P(WordLineBreakingInScript, GivesThemForATextThatBeginsWithSpaces)
+{
+    for (const qsizetype spaces : {1, 2, 5}) {
+        for (const QString& piece : GetParam().pieces) {
+            const QString text = QString(spaces, u' ') + piece + QStringLiteral("on line 42");
+            for (const qsizetype columns : {0, 23, 47, 80}) {
+                expectAsLaidOut(text, columns);
+            }
         }
     }
     EXPECT_GT(told, asked * 3 / 4) << "of " << asked;
