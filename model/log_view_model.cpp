@@ -128,7 +128,12 @@ void LogViewModel::startTail()
     invalidatePollTimer();
     pollTimer = std::make_unique<QTimer>();
     pollTimer->setInterval(kPollInterval);
-    connect(pollTimer.get(), &QTimer::timeout, this, [this] { pollTail(); });
+    connect(pollTimer.get(), &QTimer::timeout, this, [this] {
+        // A look that is due anyway takes as much as one turn of the event loop should.
+        if (!m_nextLook.isActive()) {
+            pollTail();
+        }
+    });
     pollTimer->start();
 }
 

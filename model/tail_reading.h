@@ -24,7 +24,7 @@ struct TailGrowth {
 
 // How much a look takes at once, in bytes: what is read, shown and painted before anybody feels
 // that a key waits for it.
-inline constexpr qint64 kLookBytes = qint64{4} * 1024 * 1024;
+inline constexpr qint64 kLookBytes = qint64{2} * 1024 * 1024;
 
 // Reads what the file has past `lastFileSize` bytes. No growth where it is not longer, also when it
 // has become shorter: a truncated file shows nothing new until it outgrows its old size. The growth

@@ -6,6 +6,8 @@
 #include "tests/model/view_model_fixture.h"
 #include "tests/support/random_text.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 
 namespace quillon {
@@ -79,6 +81,20 @@ TEST_F(LargeGrowth, IsTakenUpInTheTurnsOfTheEventLoop)
     EXPECT_LT(model().lastFileSize, 2 + quint64(growth.size()));
     ASSERT_TRUE(spinUntil([&] { return model().lines.get().size() == 100'001; }));
     EXPECT_TRUE(status().startsWith(QStringLiteral("Lignes: ") + QLocale().toString(100'001)));
+}
+
+TEST_F(LargeGrowth, IsLookedAtOnceATurnAlsoWhenATickComesInBetween)
+{
+    follow("x\n");
+    const QByteArray growth = QByteArray(QByteArray(99, 'l') + '\n').repeated(100'000);
+    folder().append(kFile, growth);
+    model().pollTail();
+    const quint64 atOnce = model().lastFileSize;
+    model().pollTimer->start(0);
+    QCoreApplication::processEvents();
+    EXPECT_GT(model().lastFileSize, atOnce);
+    EXPECT_LE(model().lastFileSize, 2 * atOnce);
+    ASSERT_TRUE(spinUntil([&] { return model().lines.get().size() == 100'001; }));
 }
 
 TEST_F(LargeGrowth, IsNotTakenUpOnceFollowingIsOff)

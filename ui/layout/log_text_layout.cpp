@@ -43,7 +43,7 @@ bool LogTextLayout::layOut(const AttributedString& text,
         keepShapedRows();
         m_mixedRows.clear();
         m_measures.clear();
-        m_measures.reserve(static_cast<std::size_t>(text.rows().size()));
+        m_measures.reserve(text.rows().size());
     }
     if (!sameLines) {
         m_metrics = std::move(metrics);
@@ -66,20 +66,20 @@ void LogTextLayout::forgetFont()
 {
     m_longRows.clear();
     m_knownRows.clear();
-    for (const std::size_t row : m_mixedRows) {
+    for (const qsizetype row : m_mixedRows) {
         RowMeasure unknown;
-        unknown.asciiLength = m_measures[row].asciiLength;
+        unknown.asciiLength = m_measures.at(row).asciiLength;
         m_measures[row] = unknown;
     }
 }
 
 void LogTextLayout::keepShapedRows()
 {
-    for (const std::size_t index : m_mixedRows) {
-        if (m_measures[index].isShaped) {
-            const AttributedRow& row = m_text.rows()[static_cast<qsizetype>(index)];
+    for (const qsizetype index : m_mixedRows) {
+        if (m_measures.at(index).isShaped) {
+            const AttributedRow& row = m_text.rows()[index];
             m_knownRows.insert(row.text().constData(),
-                               KnownRow{row.text(), row.prefixLength(), m_measures[index]});
+                               KnownRow{row.text(), row.prefixLength(), m_measures.at(index)});
         }
     }
 }
@@ -133,21 +133,22 @@ void LogTextLayout::dropForeignRows()
 void LogTextLayout::measureRowsFrom(qsizetype firstRow)
 {
     const auto& rows = m_text.rows();
-    const auto count = static_cast<std::size_t>(rows.size());
+    const qsizetype count = rows.size();
     m_lineEnds.resize(count);
-    auto row = static_cast<std::size_t>(firstRow);
-    quint32 lines = row == 0 ? 0 : m_lineEnds[row - 1];
-    for (; row < count; ++row) {
+    quint32* const lineEnds = m_lineEnds.data();
+    quint32 lines = firstRow == 0 ? 0 : lineEnds[firstRow - 1];
+    for (qsizetype row = firstRow; row < count; ++row) {
         if (row == m_measures.size()) {
-            m_measures.push_back(initialMeasure(rows[static_cast<qsizetype>(row)]));
-            if (m_measures.back().range == CharacterRange::Any) {
+            m_measures.append(initialMeasure(rows[row]));
+            if (m_measures.constLast().range == CharacterRange::Any) {
                 m_mixedRows.push_back(row);
             }
         }
-        const auto known = m_engine->measurer.knownExtent(m_measures[row]);
-        const RowExtent extent = known ? *known : extentOf(row);
+        RowMeasure& measure = m_measures[row];
+        const auto known = m_engine->measurer.knownExtent(measure);
+        const RowExtent extent = known ? *known : extentOf(row, measure);
         lines += static_cast<quint32>(extent.lineCount);
-        m_lineEnds[row] = lines;
+        lineEnds[row] = lines;
         m_width = std::max(m_width, extent.width);
     }
 }
@@ -166,16 +167,15 @@ RowMeasure LogTextLayout::initialMeasure(const AttributedRow& row)
     return known->measure;
 }
 
-RowExtent LogTextLayout::extentOf(std::size_t index)
+RowExtent LogTextLayout::extentOf(qsizetype index, RowMeasure& measure)
 {
-    const auto position = static_cast<qsizetype>(index);
-    const AttributedRow& row = m_text.rows()[position];
+    const AttributedRow& row = m_text.rows()[index];
     if (row.text().size() > kLongRow) {
         // It will be looked at soon, being most of the log.
-        const RowLayout& layout = rowLayout(position);
+        const RowLayout& layout = rowLayout(index);
         return m_engine->layouter.extentOf(layout);
     }
-    return m_engine->measurer.measure(row, m_measures[index]);
+    return m_engine->measurer.measure(row, measure);
 }
 
 qint64 LogTextLayout::lineCount() const
@@ -185,7 +185,7 @@ qint64 LogTextLayout::lineCount() const
 
 qint64 LogTextLayout::firstLineOf(qsizetype row) const
 {
-    return row == 0 ? 0 : m_lineEnds[static_cast<std::size_t>(row) - 1];
+    return row == 0 ? 0 : m_lineEnds[row - 1];
 }
 
 VisualLine LogTextLayout::visualLine(qint64 line) const

@@ -8,6 +8,7 @@
 #include "ui/layout/text_position.h"
 
 #include <QHash>
+#include <QList>
 
 #include <functional>
 #include <list>
@@ -102,7 +103,7 @@ private:
     void dropForeignRows();
     void measureRowsFrom(qsizetype firstRow);
     [[nodiscard]] RowMeasure initialMeasure(const AttributedRow& row);
-    [[nodiscard]] RowExtent extentOf(std::size_t row);
+    [[nodiscard]] RowExtent extentOf(qsizetype row, RowMeasure& measure);
     [[nodiscard]] CachedRow& cachedRow(qsizetype row) const;
 
     BreakOpportunities m_opportunities;
@@ -110,12 +111,13 @@ private:
     std::shared_ptr<const MonospaceMetrics> m_metrics;
     std::optional<Fixed> m_lineWidth;
     std::unique_ptr<RowEngine> m_engine;
-    // For each row the number of visual lines up to its end.
-    std::vector<quint32> m_lineEnds;
+    // For each row the number of visual lines up to its end. These two lists are as long as a log
+    // that is followed becomes; a QList grows where it is, as far as the system can remap memory.
+    QList<quint32> m_lineEnds;
     // For each row what has been found out about it, for as long as the text stays.
-    std::vector<RowMeasure> m_measures;
+    QList<RowMeasure> m_measures;
     // The rows of range Any, in order: what is known of them holds for one font.
-    std::vector<std::size_t> m_mixedRows;
+    std::vector<qsizetype> m_mixedRows;
     Fixed m_width = 0;
     // Rows of earlier texts that need shaping, by where their text stands in memory: a search
     // leaves rows out and lets them in again.
