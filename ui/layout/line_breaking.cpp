@@ -2,6 +2,7 @@
 #include "ui/layout/line_breaking.h"
 
 #include "ui/layout/break_opportunities.h"
+#include "ui/layout/character_range.h"
 #include "ui/layout/displayed_text.h"
 #include "ui/layout/monospace_metrics.h"
 
@@ -10,6 +11,8 @@
 namespace quillon {
 
 namespace {
+
+constexpr char16_t kFirstNonAscii = 0x80;
 
 bool isSpaceAt(QStringView text, qsizetype at)
 {
@@ -83,8 +86,20 @@ qsizetype LineBreaker::lineEnd(QStringView text, qsizetype start) const
     // The first character that is no space: what is before it belongs to the line in any case.
     std::optional<qsizetype> content;
     Fixed x = 0;
+    bool isAfterBlocks = false;
     for (qsizetype at = start; at < text.size(); ++at) {
         const char16_t character = text[at].unicode();
+        if (character >= kFirstNonAscii) {
+            isAfterBlocks = false;
+        } else if (content && !isAfterBlocks) {
+            // What fits of the ASCII that begins here, but for less than a block.
+            const qsizetype room = std::max<Fixed>(0, m_width - x) / m_metrics.columnAdvance();
+            const qsizetype count = asciiBlocks(text.sliced(at, std::min(room, text.size() - at)));
+            x += count * m_metrics.columnAdvance();
+            at += count - 1;
+            isAfterBlocks = true;
+            continue;
+        }
         const bool isFull = x > m_width;
         if (character == u'\t') {
             const Fixed stop = nextTabStop(x, m_metrics);
