@@ -17,7 +17,7 @@ namespace {
 // desktop finds them.
 constexpr QLatin1StringView kBusName("org.quillon.Quillon");
 constexpr QLatin1StringView kObjectPath("/org/quillon/Quillon");
-constexpr QLatin1StringView kInterface("org.freedesktop.Application");
+constexpr QLatin1StringView kHandoverInterface("org.freedesktop.Application");
 
 // The bus's own name, path and interface, and of its protocol what asking for a name takes.
 constexpr QLatin1StringView kBus("org.freedesktop.DBus");
@@ -106,7 +106,7 @@ private:
     [[nodiscard]] Answer call(const QString& method, const QVariantList& arguments) const
     {
         QDBusMessage message =
-            QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, method);
+            QDBusMessage::createMethodCall(kBusName, kObjectPath, kHandoverInterface, method);
         message.setArguments(arguments);
         return answerOf(m_bus.call(message, QDBus::Block, millisecondsUntil(m_deadline)));
     }

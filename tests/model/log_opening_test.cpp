@@ -10,8 +10,6 @@
 namespace quillon {
 namespace {
 
-constexpr qsizetype kTwoMebibytes = 2'097'152;
-
 class LogOpening : public ViewModelTest {};
 
 TEST_F(LogOpening, AnEmptyFileHasNoLines)

@@ -5,7 +5,6 @@
 namespace quillon {
 namespace {
 
-constexpr qint64 kTwoMebibytes = 2'097'152;
 constexpr qint64 kHundredGigabytes = qint64{100} * 1024 * 1024 * 1024;
 
 class UnusualLog : public ViewModelTest {};

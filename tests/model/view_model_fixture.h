@@ -14,6 +14,9 @@
 
 namespace quillon {
 
+// What is read of a log when it is opened.
+inline constexpr qsizetype kTwoMebibytes = 2'097'152;
+
 // A view model over settings and a log file of its own. Counts are written without grouping.
 class ViewModelTest : public testing::Test {
 protected:

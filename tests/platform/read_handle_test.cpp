@@ -16,7 +16,7 @@
 namespace quillon {
 namespace {
 
-const QString kFile = QStringLiteral("file.log");
+const QString kLogFile = QStringLiteral("file.log");
 constexpr qint64 kHundredGigabytes = qint64{100} * 1024 * 1024 * 1024;
 
 ReadHandle openOrFail(const QString& path)
@@ -41,21 +41,21 @@ TEST(ReadHandle, ReadsAWholeFile)
 {
     const TemporaryFolder folder;
     const QByteArray bytes("abc\0def", 7);
-    ReadHandle handle = openOrFail(folder.write(kFile, bytes));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, bytes));
     EXPECT_EQ(handle.readToEnd().value(), bytes);
 }
 
 TEST(ReadHandle, ReadsNothingFromAnEmptyFile)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, QByteArray()));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, QByteArray()));
     EXPECT_EQ(handle.readToEnd().value(), QByteArray());
 }
 
 TEST(ReadHandle, ReadsFromWhereItWasMovedTo)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abcdef"));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abcdef"));
     ASSERT_FALSE(handle.seek(4));
     EXPECT_EQ(handle.readToEnd().value(), "ef");
 }
@@ -63,7 +63,7 @@ TEST(ReadHandle, ReadsFromWhereItWasMovedTo)
 TEST(ReadHandle, ReadsNothingAtTheEnd)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abc"));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abc"));
     EXPECT_EQ(handle.readToEnd().value(), "abc");
     EXPECT_EQ(handle.readToEnd().value(), QByteArray());
 }
@@ -71,7 +71,7 @@ TEST(ReadHandle, ReadsNothingAtTheEnd)
 TEST(ReadHandle, ReadsNothingPastTheEnd)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abc"));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abc"));
     ASSERT_FALSE(handle.seek(1'000));
     EXPECT_EQ(handle.readToEnd().value(), QByteArray());
 }
@@ -79,16 +79,16 @@ TEST(ReadHandle, ReadsNothingPastTheEnd)
 TEST(ReadHandle, ReadsWhatWasAppendedSinceTheFileWasOpened)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abc"));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abc"));
     EXPECT_EQ(handle.readToEnd().value(), "abc");
-    folder.append(kFile, "def");
+    folder.append(kLogFile, "def");
     EXPECT_EQ(handle.readToEnd().value(), "def");
 }
 
 TEST(ReadHandle, ReadsAtMostTheCountAskedFor)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abcdef"));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abcdef"));
     EXPECT_EQ(handle.readUpTo(4).value(), "abcd");
     EXPECT_EQ(handle.readUpTo(4).value(), "ef");
     EXPECT_EQ(handle.readUpTo(4).value(), QByteArray());
@@ -97,11 +97,11 @@ TEST(ReadHandle, ReadsAtMostTheCountAskedFor)
 TEST(ReadHandle, ReadsTheEndOfAHundredGigabytes)
 {
     const TemporaryFolder folder;
-    folder.write(kFile, "start");
-    folder.resize(kFile, kHundredGigabytes);
-    folder.append(kFile, "end");
-    ReadHandle handle = openOrFail(folder.path(kFile));
-    EXPECT_EQ(fileSizeAt(folder.path(kFile)).value(), quint64{kHundredGigabytes} + 3);
+    folder.write(kLogFile, "start");
+    folder.resize(kLogFile, kHundredGigabytes);
+    folder.append(kLogFile, "end");
+    ReadHandle handle = openOrFail(folder.path(kLogFile));
+    EXPECT_EQ(fileSizeAt(folder.path(kLogFile)).value(), quint64{kHundredGigabytes} + 3);
     ASSERT_FALSE(handle.seek(quint64{kHundredGigabytes} - 1));
     EXPECT_EQ(handle.readToEnd().value(), QByteArray("\0end", 4));
 }
@@ -109,23 +109,23 @@ TEST(ReadHandle, ReadsTheEndOfAHundredGigabytes)
 TEST(ReadHandle, RefusesToReadMoreThanItsLimitInOnePiece)
 {
     const TemporaryFolder folder;
-    folder.write(kFile, "start");
-    folder.resize(kFile, kHundredGigabytes);
-    ReadHandle handle = openOrFail(folder.path(kFile));
+    folder.write(kLogFile, "start");
+    folder.resize(kLogFile, kHundredGigabytes);
+    ReadHandle handle = openOrFail(folder.path(kLogFile));
     EXPECT_EQ(handle.readToEnd().error(), SystemError{EFBIG});
 }
 
 TEST(ReadHandle, RefusesAnOffsetThatNoFileCanHave)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abc"));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abc"));
     EXPECT_EQ(handle.seek(std::numeric_limits<quint64>::max()), SystemError{EOVERFLOW});
 }
 
 TEST(ReadHandle, KeepsReadingWhenItIsMoved)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abc"));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abc"));
     ReadHandle moved = std::move(handle);
     EXPECT_EQ(moved.readToEnd().value(), "abc");
 }
@@ -133,7 +133,7 @@ TEST(ReadHandle, KeepsReadingWhenItIsMoved)
 TEST(ReadHandle, ClosesItsFileWithTheObject)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(kFile, "abc");
+    const QString path = folder.write(kLogFile, "abc");
     const int before = ::dup(STDERR_FILENO);
     ::close(before);
     {
@@ -147,8 +147,8 @@ TEST(ReadHandle, ClosesItsFileWithTheObject)
 TEST(ReadHandle, KeepsReadingAFileThatWasDeleted)
 {
     const TemporaryFolder folder;
-    ReadHandle handle = openOrFail(folder.write(kFile, "abc"));
-    ASSERT_TRUE(QFile::remove(folder.path(kFile)));
+    ReadHandle handle = openOrFail(folder.write(kLogFile, "abc"));
+    ASSERT_TRUE(QFile::remove(folder.path(kLogFile)));
     EXPECT_EQ(handle.readToEnd().value(), "abc");
 }
 
@@ -163,14 +163,14 @@ TEST(ReadHandle, FollowsASymbolicLink)
 {
     const TemporaryFolder folder;
     const QString link = folder.path(QStringLiteral("link.log"));
-    ASSERT_TRUE(QFile::link(folder.write(kFile, "abc"), link));
+    ASSERT_TRUE(QFile::link(folder.write(kLogFile, "abc"), link));
     EXPECT_EQ(openOrFail(link).readToEnd().value(), "abc");
 }
 
 TEST(ReadHandleRefusal, OfAMissingFile)
 {
     const TemporaryFolder folder;
-    EXPECT_EQ(refusalOf(folder.path(kFile)), ENOENT);
+    EXPECT_EQ(refusalOf(folder.path(kLogFile)), ENOENT);
 }
 
 TEST(ReadHandleRefusal, OfAnEmptyPath)
@@ -187,8 +187,8 @@ TEST(ReadHandleRefusal, OfADirectory)
 TEST(ReadHandleRefusal, OfAPipeThatNobodyWritesTo)
 {
     const TemporaryFolder folder;
-    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.path(kFile)).constData(), 0600), 0);
-    EXPECT_EQ(refusalOf(folder.path(kFile)), EOPNOTSUPP);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.path(kLogFile)).constData(), 0600), 0);
+    EXPECT_EQ(refusalOf(folder.path(kLogFile)), EOPNOTSUPP);
 }
 
 TEST(ReadHandleRefusal, OfADeviceThatNeverEnds)
@@ -199,14 +199,14 @@ TEST(ReadHandleRefusal, OfADeviceThatNeverEnds)
 TEST(ReadHandleRefusal, OfALinkThatLeadsNowhere)
 {
     const TemporaryFolder folder;
-    ASSERT_TRUE(QFile::link(folder.path(kFile), folder.path(QStringLiteral("link.log"))));
+    ASSERT_TRUE(QFile::link(folder.path(kLogFile), folder.path(QStringLiteral("link.log"))));
     EXPECT_EQ(refusalOf(folder.path(QStringLiteral("link.log"))), ENOENT);
 }
 
 TEST(ReadHandleRefusal, OfAFileThatMayNotBeRead)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(kFile, "abc");
+    const QString path = folder.write(kLogFile, "abc");
     ASSERT_EQ(::chmod(QFile::encodeName(folder.path(QString())).constData(), 0755), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0000), 0);
     const DroppedPrivileges nobody;
@@ -219,7 +219,7 @@ TEST(ReadHandleRefusal, OfAFileThatMayNotBeRead)
 TEST(ReadHandleRefusal, OfAFileInAFolderThatMayNotBeEntered)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(kFile, "abc");
+    const QString path = folder.write(kLogFile, "abc");
     const QByteArray encoded = QFile::encodeName(folder.path(QString()));
     ASSERT_EQ(::chmod(encoded.constData(), 0000), 0);
     {

@@ -12,18 +12,18 @@
 namespace quillon {
 namespace {
 
-const QString kKey = QStringLiteral("prefs.default.folder");
+const QString kFolderKey = QStringLiteral("prefs.default.folder");
 
 std::optional<QString> valueIn(const QByteArray& text)
 {
     const auto values = SettingsText(text).values();
-    return values.contains(kKey) ? std::optional(values.value(kKey)) : std::nullopt;
+    return values.contains(kFolderKey) ? std::optional(values.value(kFolderKey)) : std::nullopt;
 }
 
 QByteArray afterSetting(const QByteArray& text, const QString& value)
 {
     SettingsText settings(text);
-    settings.set(kKey, value);
+    settings.set(kFolderKey, value);
     return settings.bytes();
 }
 
@@ -88,7 +88,7 @@ TEST(SettingsText, ReadsWhatQSettingsHasWritten)
         const QString value = awkwardText(random);
         {
             QSettings settings(folder.path(name), QSettings::IniFormat);
-            settings.setValue(kKey, value);
+            settings.setValue(kFolderKey, value);
         }
         QFile file(folder.path(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -105,7 +105,7 @@ TEST(SettingsText, WritesWhatQSettingsReads)
         const QString value = awkwardText(random);
         folder.write(name, afterSetting("[General]\nother=1\n", value));
         const QSettings settings(folder.path(name), QSettings::IniFormat);
-        EXPECT_EQ(settings.value(kKey).toString(), value);
+        EXPECT_EQ(settings.value(kFolderKey).toString(), value);
         EXPECT_EQ(settings.value(QStringLiteral("other")).toInt(), 1);
     }
 }
@@ -118,7 +118,7 @@ TEST(SettingsText, AByteOrderMarkInAValueIsKept)
     const QString value = QStringLiteral("\uFEFFa\n\uFEFFb");
     folder.write(file, afterSetting(QByteArray(), value));
     QSettings settings(folder.path(file), QSettings::IniFormat);
-    EXPECT_EQ(settings.value(kKey).toString(), value);
+    EXPECT_EQ(settings.value(kFolderKey).toString(), value);
     EXPECT_EQ(valueIn(afterSetting(QByteArray(), value)), value);
 }
 
@@ -180,7 +180,7 @@ TEST(SettingsText, AValueThatIsSetHasOneLine)
 TEST(SettingsText, AValueThatIsRemovedHasNoLine)
 {
     SettingsText text("[General]\nprefs.default.folder=a\nx=1\nprefs.default.folder=c\n");
-    text.set(kKey, std::nullopt);
+    text.set(kFolderKey, std::nullopt);
     EXPECT_EQ(text.bytes(), "[General]\nx=1\n");
 }
 

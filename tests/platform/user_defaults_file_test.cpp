@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
+#include "tests/platform/settings_file_samples.h"
 #include "tests/support/dropped_privileges.h"
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
@@ -18,22 +19,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const QString kFile = QStringLiteral("Quillon.conf");
-const QString kKey = QStringLiteral("prefs.color.info");
-const QString kBlue = QStringLiteral("#0000FF");
-
 // One start of the program after the other, over the same settings file.
 class UserDefaultsFile : public testing::Test {
 protected:
     void start() { m_defaults = std::make_unique<UserDefaults>(m_center, filePath()); }
     void quit() { m_defaults.reset(); }
 
-    [[nodiscard]] QString filePath() const { return m_folder.path(kFile); }
+    [[nodiscard]] QString filePath() const { return m_folder.path(kSettingsFile); }
     [[nodiscard]] UserDefaults& defaults() const { return *m_defaults; }
     [[nodiscard]] const TemporaryFolder& folder() const { return m_folder; }
     [[nodiscard]] bool reads(const QString& text) const
     {
-        return m_defaults->stringForKey(kKey) == text;
+        return m_defaults->stringForKey(kColorKey) == text;
     }
     NotificationCenter& center() { return m_center; }
 
@@ -46,10 +43,10 @@ private:
 TEST_F(UserDefaultsFile, KeepsTextFromOneRunToTheNext)
 {
     start();
-    defaults().setObject(QStringLiteral(" a;b,c = \"é\" #1 \\ 日本 "), kKey);
+    defaults().setObject(QStringLiteral(" a;b,c = \"é\" #1 \\ 日本 "), kColorKey);
     quit();
     start();
-    EXPECT_EQ(defaults().stringForKey(kKey), QStringLiteral(" a;b,c = \"é\" #1 \\ 日本 "));
+    EXPECT_EQ(defaults().stringForKey(kColorKey), QStringLiteral(" a;b,c = \"é\" #1 \\ 日本 "));
 }
 
 TEST_F(UserDefaultsFile, KeepsBooleansAndNumbersFromOneRunToTheNext)
@@ -66,36 +63,36 @@ TEST_F(UserDefaultsFile, KeepsBooleansAndNumbersFromOneRunToTheNext)
 TEST_F(UserDefaultsFile, DoesNotHoldRegisteredDefaults)
 {
     start();
-    defaults().registerDefaults({{kKey, kBlue}});
+    defaults().registerDefaults({{kColorKey, kBlue}});
     defaults().setObject(1, QStringLiteral("prefs.other"));
     quit();
     start();
-    EXPECT_EQ(defaults().stringForKey(kKey), std::nullopt);
+    EXPECT_EQ(defaults().stringForKey(kColorKey), std::nullopt);
 }
 
 TEST_F(UserDefaultsFile, StaysWithoutARemovedValue)
 {
     start();
-    defaults().setObject(kBlue, kKey);
+    defaults().setObject(kBlue, kColorKey);
     quit();
     start();
-    defaults().removeObject(kKey);
+    defaults().removeObject(kColorKey);
     quit();
     start();
-    EXPECT_EQ(defaults().stringForKey(kKey), std::nullopt);
+    EXPECT_EQ(defaults().stringForKey(kColorKey), std::nullopt);
 }
 
 TEST_F(UserDefaultsFile, IsWrittenByTheEventLoop)
 {
     start();
-    defaults().setObject(kBlue, kKey);
+    defaults().setObject(kBlue, kColorKey);
     EXPECT_TRUE(spinUntil([this] { return QFile::exists(filePath()); }));
 }
 
 TEST_F(UserDefaultsFile, KeepsItsKeysInTheGeneralGroup)
 {
     start();
-    defaults().setObject(kBlue, kKey);
+    defaults().setObject(kBlue, kColorKey);
     quit();
     QFile file(filePath());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -106,20 +103,20 @@ TEST_F(UserDefaultsFile, KeepsItsKeysInTheGeneralGroup)
 
 TEST_F(UserDefaultsFile, AnOutsideChangeIsNoticedAndPosted)
 {
-    folder().write(kFile, "[General]\nprefs.color.info=#111111\n");
+    folder().write(kSettingsFile, "[General]\nprefs.color.info=#111111\n");
     start();
     ASSERT_TRUE(reads(QStringLiteral("#111111")));
     int posts = 0;
     const Subscription subscription =
         center().observe(kUserDefaultsDidChange, [&posts] { ++posts; });
-    folder().write(kFile, "[General]\nprefs.color.info=#222222222\n");
+    folder().write(kSettingsFile, "[General]\nprefs.color.info=#222222222\n");
     EXPECT_TRUE(spinUntil([this] { return reads(QStringLiteral("#222222222")); }));
     EXPECT_GT(posts, 0);
 }
 
 TEST_F(UserDefaultsFile, AReplacedFileIsNoticedEachTime)
 {
-    folder().write(kFile, "[General]\nprefs.color.info=#1\n");
+    folder().write(kSettingsFile, "[General]\nprefs.color.info=#1\n");
     start();
     for (int i = 2; i < 5; ++i) {
         const QString text = QStringLiteral("#") + QString(i, u'A');
@@ -133,7 +130,7 @@ TEST_F(UserDefaultsFile, AReplacedFileIsNoticedEachTime)
 TEST_F(UserDefaultsFile, AFileThatAppearsLaterIsNoticed)
 {
     start();
-    folder().write(kFile, "[General]\nprefs.color.info=#111111\n");
+    folder().write(kSettingsFile, "[General]\nprefs.color.info=#111111\n");
     EXPECT_TRUE(spinUntil([this] { return reads(QStringLiteral("#111111")); }));
 }
 
@@ -152,34 +149,35 @@ TEST_F(UserDefaultsFile, ItsOwnWritingIsNoOutsideChange)
 
 TEST_F(UserDefaultsFile, AnUnquotedCommaReadsAsTheTextThatWasWritten)
 {
-    folder().write(kFile, "[General]\nprefs.color.info=/logs, old\n");
+    folder().write(kSettingsFile, "[General]\nprefs.color.info=/logs, old\n");
     start();
-    EXPECT_EQ(defaults().stringForKey(kKey), QStringLiteral("/logs, old"));
+    EXPECT_EQ(defaults().stringForKey(kColorKey), QStringLiteral("/logs, old"));
 }
 
 TEST_F(UserDefaultsFile, ADamagedFileLeavesTheDefaultsInForce)
 {
-    folder().write(kFile, QByteArray("\0\xFF[[[\n===\n@Variant(\x01\x02)\n[General\n\xC3", 34));
+    folder().write(kSettingsFile,
+                   QByteArray("\0\xFF[[[\n===\n@Variant(\x01\x02)\n[General\n\xC3", 34));
     start();
-    defaults().registerDefaults({{kKey, kBlue}});
-    EXPECT_EQ(defaults().stringForKey(kKey), kBlue);
+    defaults().registerDefaults({{kColorKey, kBlue}});
+    EXPECT_EQ(defaults().stringForKey(kColorKey), kBlue);
 }
 
 TEST_F(UserDefaultsFile, ADamagedFileDoesNotKeepValuesFromBeingSet)
 {
-    folder().write(kFile, QByteArray("\0\xFF[[[\n===\n", 11));
+    folder().write(kSettingsFile, QByteArray("\0\xFF[[[\n===\n", 11));
     start();
-    defaults().setObject(kBlue, kKey);
+    defaults().setObject(kBlue, kColorKey);
     spinFor(20ms);
-    EXPECT_EQ(defaults().stringForKey(kKey), kBlue);
+    EXPECT_EQ(defaults().stringForKey(kColorKey), kBlue);
 }
 
 TEST_F(UserDefaultsFile, AStoredVariantThatCannotBeReadIsHarmless)
 {
-    folder().write(kFile, "[General]\nprefs.color.info=@Variant(\\0\\0\\0\\x7f\\xff\\xff)\n"
-                          "prefs.font.default=@Rect(1 2)\nprefs.wrap.default=@Invalid()\n");
+    folder().write(kSettingsFile, "[General]\nprefs.color.info=@Variant(\\0\\0\\0\\x7f\\xff\\xff)\n"
+                                  "prefs.font.default=@Rect(1 2)\nprefs.wrap.default=@Invalid()\n");
     start();
-    EXPECT_NO_FATAL_FAILURE(static_cast<void>(defaults().stringForKey(kKey)));
+    EXPECT_NO_FATAL_FAILURE(static_cast<void>(defaults().stringForKey(kColorKey)));
     EXPECT_EQ(defaults().doubleForKey(QStringLiteral("prefs.font.default")), 0.0);
     EXPECT_FALSE(defaults().boolForKey(QStringLiteral("prefs.wrap.default")));
 }
@@ -188,11 +186,11 @@ TEST_F(UserDefaultsFile, ADirectoryInItsPlaceLeavesTheDefaultsInForce)
 {
     ASSERT_TRUE(QDir().mkdir(filePath()));
     start();
-    defaults().registerDefaults({{kKey, kBlue}});
-    EXPECT_EQ(defaults().stringForKey(kKey), kBlue);
-    defaults().setObject(QStringLiteral("#111111"), kKey);
+    defaults().registerDefaults({{kColorKey, kBlue}});
+    EXPECT_EQ(defaults().stringForKey(kColorKey), kBlue);
+    defaults().setObject(QStringLiteral("#111111"), kColorKey);
     spinFor(20ms);
-    EXPECT_EQ(defaults().stringForKey(kKey), QStringLiteral("#111111"));
+    EXPECT_EQ(defaults().stringForKey(kColorKey), QStringLiteral("#111111"));
 }
 
 TEST_F(UserDefaultsFile, AFolderThatMayNotBeWrittenKeepsTheValuesInMemory)
@@ -202,9 +200,9 @@ TEST_F(UserDefaultsFile, AFolderThatMayNotBeWrittenKeepsTheValuesInMemory)
     {
         const DroppedPrivileges nobody;
         start();
-        defaults().setObject(kBlue, kKey);
+        defaults().setObject(kBlue, kColorKey);
         spinFor(20ms);
-        EXPECT_EQ(defaults().stringForKey(kKey), kBlue);
+        EXPECT_EQ(defaults().stringForKey(kColorKey), kBlue);
         quit();
         EXPECT_FALSE(QFile::exists(filePath()));
     }

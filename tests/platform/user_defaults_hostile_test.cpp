@@ -2,6 +2,7 @@
 // What may lie where the settings file is expected, at the start and while the program runs.
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
+#include "tests/platform/settings_file_samples.h"
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
 #include "tests/support/temporary_folder.h"
@@ -21,9 +22,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const QString kFile = QStringLiteral("Quillon.conf");
-const QString kKey = QStringLiteral("prefs.color.info");
-const QString kBlue = QStringLiteral("#0000FF");
 const QByteArray kGreen = "[General]\nprefs.color.info=#00FF00\n";
 const QString kGreenValue = QStringLiteral("#00FF00");
 
@@ -40,25 +38,26 @@ class HostileSettings : public testing::Test {
 protected:
     void start()
     {
-        m_defaults = std::make_unique<UserDefaults>(m_center, folder.path(kFile));
-        m_defaults->registerDefaults({{kKey, kBlue}});
+        m_defaults = std::make_unique<UserDefaults>(m_center, folder.path(kSettingsFile));
+        m_defaults->registerDefaults({{kColorKey, kBlue}});
     }
     void quit() { m_defaults.reset(); }
     [[nodiscard]] UserDefaults& defaults() const { return *m_defaults; }
     [[nodiscard]] QString value() const
     {
-        return defaults().stringForKey(kKey).value_or(QString());
+        return defaults().stringForKey(kColorKey).value_or(QString());
     }
     [[nodiscard]] QByteArray content() const
     {
-        QFile file(folder.path(kFile));
+        QFile file(folder.path(kSettingsFile));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
     }
     void putInPlace(const QByteArray& bytes) const
     {
         const QString other = folder.write(QStringLiteral("other"), bytes);
-        ASSERT_EQ(::rename(QFile::encodeName(other), QFile::encodeName(folder.path(kFile))), 0);
+        ASSERT_EQ(::rename(QFile::encodeName(other), QFile::encodeName(folder.path(kSettingsFile))),
+                  0);
     }
     // Time in which a change would have been noticed: that of a later one, in the same file.
     void awaitNoticing()
@@ -100,7 +99,7 @@ TEST_F(HostileSettings, AFileOfNoSaneSizeIsNotReadWhileRunning)
 {
     putInPlace(kGreen);
     start();
-    folder.resize(kFile, qint64{1} << 40);
+    folder.resize(kSettingsFile, qint64{1} << 40);
     spinFor(100ms);
     EXPECT_EQ(value(), kGreenValue);
     awaitNoticing();
@@ -111,7 +110,7 @@ TEST_F(HostileSettings, AFileOfNoSaneSizeIsNotOverwritten)
     const QByteArray large = kGreen + QByteArray(SettingsFile::kMaximumBytes, '\n');
     putInPlace(large);
     start();
-    defaults().setObject(QStringLiteral("#111111"), kKey);
+    defaults().setObject(QStringLiteral("#111111"), kColorKey);
     quit();
     EXPECT_EQ(content(), large);
 }
@@ -125,11 +124,11 @@ TEST_F(HostileSettings, TheLargestFileIsRead)
 
 TEST_F(HostileSettings, APipeInItsPlaceIsNeitherWaitedForNorReplaced)
 {
-    const QByteArray path = QFile::encodeName(folder.path(kFile));
+    const QByteArray path = QFile::encodeName(folder.path(kSettingsFile));
     ASSERT_EQ(::mkfifo(path.constData(), 0600), 0);
     start();
     EXPECT_EQ(value(), kBlue);
-    defaults().setObject(kGreenValue, kKey);
+    defaults().setObject(kGreenValue, kColorKey);
     quit();
     struct stat status {};
     ASSERT_EQ(::stat(path.constData(), &status), 0);
@@ -140,7 +139,7 @@ TEST_F(HostileSettings, WhatCannotBeReadAnyMoreLeavesTheKnownValues)
 {
     putInPlace(kGreen);
     start();
-    const QByteArray path = QFile::encodeName(folder.path(kFile));
+    const QByteArray path = QFile::encodeName(folder.path(kSettingsFile));
     ASSERT_EQ(::unlink(path.constData()), 0);
     ASSERT_EQ(::mkfifo(path.constData(), 0600), 0);
     spinFor(100ms);
@@ -150,11 +149,11 @@ TEST_F(HostileSettings, WhatCannotBeReadAnyMoreLeavesTheKnownValues)
 
 TEST_F(HostileSettings, AValueThatCouldNotBeWrittenIsWrittenWithTheNext)
 {
-    ASSERT_TRUE(QDir().mkdir(folder.path(kFile)));
+    ASSERT_TRUE(QDir().mkdir(folder.path(kSettingsFile)));
     start();
-    defaults().setObject(kGreenValue, kKey);
+    defaults().setObject(kGreenValue, kColorKey);
     spinFor(10ms);
-    ASSERT_TRUE(QDir().rmdir(folder.path(kFile)));
+    ASSERT_TRUE(QDir().rmdir(folder.path(kSettingsFile)));
     defaults().setObject(true, QStringLiteral("prefs.wrap.default"));
     quit();
     const QByteArray written = content();
@@ -164,11 +163,11 @@ TEST_F(HostileSettings, AValueThatCouldNotBeWrittenIsWrittenWithTheNext)
 
 TEST_F(HostileSettings, AValueThatIsNotWrittenYetSurvivesAnOutsideChange)
 {
-    ASSERT_TRUE(QDir().mkdir(folder.path(kFile)));
+    ASSERT_TRUE(QDir().mkdir(folder.path(kSettingsFile)));
     start();
-    defaults().setObject(kGreenValue, kKey);
+    defaults().setObject(kGreenValue, kColorKey);
     spinFor(10ms);
-    ASSERT_TRUE(QDir().rmdir(folder.path(kFile)));
+    ASSERT_TRUE(QDir().rmdir(folder.path(kSettingsFile)));
     putInPlace("[General]\nprefs.color.info=#777777\nprefs.other=1\n");
     ASSERT_TRUE(spinUntil([this] { return defaults().boolForKey(QStringLiteral("prefs.other")); }));
     EXPECT_EQ(value(), kGreenValue);
@@ -178,7 +177,7 @@ TEST_F(HostileSettings, WhatAnotherVersionWroteIsKept)
 {
     putInPlace("[General]\nprefs.new=@Variant(\\0\\0\\0\\x7f)\n\n[Window]\nstate=\\x1\\x2\n");
     start();
-    defaults().setObject(kGreenValue, kKey);
+    defaults().setObject(kGreenValue, kColorKey);
     quit();
     EXPECT_EQ(content(), "[General]\nprefs.new=@Variant(\\0\\0\\0\\x7f)\n"
                          "prefs.color.info=#00FF00\n\n[Window]\nstate=\\x1\\x2\n");
@@ -199,11 +198,11 @@ TEST_F(HostileSettings, AValueWaitsWhileAnotherWindowIsWriting)
     start();
     const int lock = ::open(QFile::encodeName(folder.path(QString())), O_RDONLY | O_DIRECTORY);
     ASSERT_EQ(::flock(lock, LOCK_EX), 0);
-    defaults().setObject(kGreenValue, kKey);
+    defaults().setObject(kGreenValue, kColorKey);
     spinFor(10ms);
-    EXPECT_FALSE(QFile::exists(folder.path(kFile)));
+    EXPECT_FALSE(QFile::exists(folder.path(kSettingsFile)));
     ::close(lock);
-    EXPECT_TRUE(spinUntil([this] { return QFile::exists(folder.path(kFile)); }));
+    EXPECT_TRUE(spinUntil([this] { return QFile::exists(folder.path(kSettingsFile)); }));
 }
 
 TEST_F(HostileSettings, AnAbandonedLockDoesNotLoseAValue)
@@ -211,7 +210,7 @@ TEST_F(HostileSettings, AnAbandonedLockDoesNotLoseAValue)
     start();
     const int lock = ::open(QFile::encodeName(folder.path(QString())), O_RDONLY | O_DIRECTORY);
     ASSERT_EQ(::flock(lock, LOCK_EX), 0);
-    defaults().setObject(kGreenValue, kKey);
+    defaults().setObject(kGreenValue, kColorKey);
     quit();
     EXPECT_EQ(content(), "[General]\nprefs.color.info=#00FF00\n");
     ::close(lock);
@@ -220,22 +219,22 @@ TEST_F(HostileSettings, AnAbandonedLockDoesNotLoseAValue)
 TEST_F(HostileSettings, ANewFileIsForItsOwnerAlone)
 {
     start();
-    defaults().setObject(kGreenValue, kKey);
+    defaults().setObject(kGreenValue, kColorKey);
     quit();
     struct stat status {};
-    ASSERT_EQ(::stat(QFile::encodeName(folder.path(kFile)).constData(), &status), 0);
+    ASSERT_EQ(::stat(QFile::encodeName(folder.path(kSettingsFile)).constData(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777U, 0600U);
 }
 
 TEST_F(HostileSettings, ALinkInItsPlaceStaysALink)
 {
     const QString target = folder.write(QStringLiteral("target"), kGreen);
-    ASSERT_TRUE(QFile::link(target, folder.path(kFile)));
+    ASSERT_TRUE(QFile::link(target, folder.path(kSettingsFile)));
     start();
-    defaults().setObject(QStringLiteral("#111111"), kKey);
+    defaults().setObject(QStringLiteral("#111111"), kColorKey);
     quit();
     struct stat status {};
-    ASSERT_EQ(::lstat(QFile::encodeName(folder.path(kFile)).constData(), &status), 0);
+    ASSERT_EQ(::lstat(QFile::encodeName(folder.path(kSettingsFile)).constData(), &status), 0);
     EXPECT_TRUE(S_ISLNK(status.st_mode));
     EXPECT_EQ(content(), "[General]\nprefs.color.info=#111111\n");
 }

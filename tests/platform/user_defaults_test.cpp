@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-const QString kKey = QStringLiteral("prefs.some.key");
+const QString kSomeKey = QStringLiteral("prefs.some.key");
 
 struct BoolCase {
     QVariant value;
@@ -24,59 +24,59 @@ struct NumberCase {
 TEST(UserDefaults, AMissingKeyReadsAsNothing)
 {
     const TemporaryDefaults temporary;
-    EXPECT_FALSE(temporary.defaults.objectForKey(kKey).isValid());
-    EXPECT_EQ(temporary.defaults.stringForKey(kKey), std::nullopt);
-    EXPECT_FALSE(temporary.defaults.boolForKey(kKey));
-    EXPECT_EQ(temporary.defaults.doubleForKey(kKey), 0.0);
+    EXPECT_FALSE(temporary.defaults.objectForKey(kSomeKey).isValid());
+    EXPECT_EQ(temporary.defaults.stringForKey(kSomeKey), std::nullopt);
+    EXPECT_FALSE(temporary.defaults.boolForKey(kSomeKey));
+    EXPECT_EQ(temporary.defaults.doubleForKey(kSomeKey), 0.0);
 }
 
 TEST(UserDefaults, ARegisteredValueCountsWhereNothingIsStored)
 {
     TemporaryDefaults temporary;
-    temporary.defaults.registerDefaults({{kKey, QStringLiteral("registered")}});
-    EXPECT_EQ(temporary.defaults.stringForKey(kKey), QStringLiteral("registered"));
+    temporary.defaults.registerDefaults({{kSomeKey, QStringLiteral("registered")}});
+    EXPECT_EQ(temporary.defaults.stringForKey(kSomeKey), QStringLiteral("registered"));
 }
 
 TEST(UserDefaults, AStoredValueCountsBeforeARegisteredOne)
 {
     TemporaryDefaults temporary;
-    temporary.defaults.setObject(QStringLiteral("stored"), kKey);
-    temporary.defaults.registerDefaults({{kKey, QStringLiteral("registered")}});
-    EXPECT_EQ(temporary.defaults.stringForKey(kKey), QStringLiteral("stored"));
+    temporary.defaults.setObject(QStringLiteral("stored"), kSomeKey);
+    temporary.defaults.registerDefaults({{kSomeKey, QStringLiteral("registered")}});
+    EXPECT_EQ(temporary.defaults.stringForKey(kSomeKey), QStringLiteral("stored"));
 }
 
 TEST(UserDefaults, AnEmptyStoredTextCountsBeforeARegisteredOne)
 {
     TemporaryDefaults temporary;
-    temporary.defaults.registerDefaults({{kKey, QStringLiteral("registered")}});
-    temporary.defaults.setObject(QString(), kKey);
-    EXPECT_EQ(temporary.defaults.stringForKey(kKey), QString());
+    temporary.defaults.registerDefaults({{kSomeKey, QStringLiteral("registered")}});
+    temporary.defaults.setObject(QString(), kSomeKey);
+    EXPECT_EQ(temporary.defaults.stringForKey(kSomeKey), QString());
 }
 
 TEST(UserDefaults, RemovingAStoredValueBringsTheRegisteredOneBack)
 {
     TemporaryDefaults temporary;
-    temporary.defaults.registerDefaults({{kKey, QStringLiteral("registered")}});
-    temporary.defaults.setObject(QStringLiteral("stored"), kKey);
-    temporary.defaults.removeObject(kKey);
-    EXPECT_EQ(temporary.defaults.stringForKey(kKey), QStringLiteral("registered"));
+    temporary.defaults.registerDefaults({{kSomeKey, QStringLiteral("registered")}});
+    temporary.defaults.setObject(QStringLiteral("stored"), kSomeKey);
+    temporary.defaults.removeObject(kSomeKey);
+    EXPECT_EQ(temporary.defaults.stringForKey(kSomeKey), QStringLiteral("registered"));
 }
 
 TEST(UserDefaults, RegisteringTwiceIsHarmless)
 {
     TemporaryDefaults temporary;
-    const UserDefaults::Table table{{kKey, true}};
+    const UserDefaults::Table table{{kSomeKey, true}};
     temporary.defaults.registerDefaults(table);
     temporary.defaults.registerDefaults(table);
-    EXPECT_TRUE(temporary.defaults.boolForKey(kKey));
+    EXPECT_TRUE(temporary.defaults.boolForKey(kSomeKey));
 }
 
 TEST(UserDefaults, RegisteringAnotherTableKeepsTheOthersKeys)
 {
     TemporaryDefaults temporary;
-    temporary.defaults.registerDefaults({{kKey, 1}});
+    temporary.defaults.registerDefaults({{kSomeKey, 1}});
     temporary.defaults.registerDefaults({{QStringLiteral("prefs.other"), 2}});
-    EXPECT_EQ(temporary.defaults.doubleForKey(kKey), 1.0);
+    EXPECT_EQ(temporary.defaults.doubleForKey(kSomeKey), 1.0);
 }
 
 TEST(UserDefaults, AnythingStoredReadsAsText)
@@ -90,18 +90,18 @@ TEST(UserDefaults, AnythingStoredReadsAsText)
         {QStringList{QStringLiteral("a"), QStringLiteral("b")}, QStringLiteral("a, b")},
     };
     for (const auto& [value, expected] : cases) {
-        temporary.defaults.setObject(value, kKey);
-        EXPECT_EQ(temporary.defaults.stringForKey(kKey), expected);
+        temporary.defaults.setObject(value, kSomeKey);
+        EXPECT_EQ(temporary.defaults.stringForKey(kSomeKey), expected);
     }
 }
 
 TEST(UserDefaults, WhatHasNoTextReadsAsNoText)
 {
     TemporaryDefaults temporary;
-    temporary.defaults.registerDefaults({{kKey, QVariantMap()}});
-    EXPECT_EQ(temporary.defaults.stringForKey(kKey), std::nullopt);
-    EXPECT_FALSE(temporary.defaults.boolForKey(kKey));
-    EXPECT_EQ(temporary.defaults.doubleForKey(kKey), 0.0);
+    temporary.defaults.registerDefaults({{kSomeKey, QVariantMap()}});
+    EXPECT_EQ(temporary.defaults.stringForKey(kSomeKey), std::nullopt);
+    EXPECT_FALSE(temporary.defaults.boolForKey(kSomeKey));
+    EXPECT_EQ(temporary.defaults.doubleForKey(kSomeKey), 0.0);
 }
 
 TEST(UserDefaults, TextsAndNumbersReadAsBooleans)
@@ -126,8 +126,8 @@ TEST(UserDefaults, TextsAndNumbersReadAsBooleans)
         {QString(), false},
     };
     for (const BoolCase& row : cases) {
-        temporary.defaults.setObject(row.value, kKey);
-        EXPECT_EQ(temporary.defaults.boolForKey(kKey), row.expected)
+        temporary.defaults.setObject(row.value, kSomeKey);
+        EXPECT_EQ(temporary.defaults.boolForKey(kSomeKey), row.expected)
             << qPrintable(row.value.toString());
     }
 }
@@ -152,8 +152,8 @@ TEST(UserDefaults, TextsAndBooleansReadAsNumbers)
         {std::numeric_limits<double>::quiet_NaN(), 0.0},
     };
     for (const NumberCase& row : cases) {
-        temporary.defaults.setObject(row.value, kKey);
-        EXPECT_EQ(temporary.defaults.doubleForKey(kKey), row.expected)
+        temporary.defaults.setObject(row.value, kSomeKey);
+        EXPECT_EQ(temporary.defaults.doubleForKey(kSomeKey), row.expected)
             << qPrintable(row.value.toString());
     }
 }
@@ -163,20 +163,20 @@ TEST(UserDefaults, PostsAChangeWhenAValueIsStored)
     TemporaryDefaults temporary;
     QString seen;
     const Subscription subscription = temporary.center.observe(kUserDefaultsDidChange, [&] {
-        seen = temporary.defaults.stringForKey(kKey).value_or(QString());
+        seen = temporary.defaults.stringForKey(kSomeKey).value_or(QString());
     });
-    temporary.defaults.setObject(QStringLiteral("stored"), kKey);
+    temporary.defaults.setObject(QStringLiteral("stored"), kSomeKey);
     EXPECT_EQ(seen, QStringLiteral("stored"));
 }
 
 TEST(UserDefaults, PostsAChangeWhenAValueIsRemoved)
 {
     TemporaryDefaults temporary;
-    temporary.defaults.setObject(1, kKey);
+    temporary.defaults.setObject(1, kSomeKey);
     int posts = 0;
     const Subscription subscription =
         temporary.center.observe(kUserDefaultsDidChange, [&posts] { ++posts; });
-    temporary.defaults.removeObject(kKey);
+    temporary.defaults.removeObject(kSomeKey);
     EXPECT_EQ(posts, 1);
 }
 
@@ -186,7 +186,7 @@ TEST(UserDefaults, PostsNoChangeWhenDefaultsAreRegistered)
     int posts = 0;
     const Subscription subscription =
         temporary.center.observe(kUserDefaultsDidChange, [&posts] { ++posts; });
-    temporary.defaults.registerDefaults({{kKey, 1}});
+    temporary.defaults.registerDefaults({{kSomeKey, 1}});
     EXPECT_EQ(posts, 0);
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "search/row_marks.h"
-#include "search/search_expression.h"
+#include "tests/search/search_of_query.h"
 #include "tests/support/printing.h"
 #include "tests/support/random_text.h"
 #include "tests/support/search_comparison.h"
@@ -11,11 +11,6 @@ namespace quillon {
 namespace {
 
 using Ranges = std::vector<TextRange>;
-
-std::shared_ptr<const SearchExpression> search(const char16_t* query)
-{
-    return SearchExpression::make(QString::fromUtf16(query));
-}
 
 // The marks in the row of a line that is numbered 1532.
 Ranges marksOfLine(const SearchExpression& expression, const QString& text)

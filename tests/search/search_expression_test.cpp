@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "search/search_expression.h"
+#include "tests/search/search_of_query.h"
 #include "tests/support/printing.h"
 #include "tests/support/search_comparison.h"
 
@@ -9,11 +9,6 @@ namespace quillon {
 namespace {
 
 using Ranges = std::vector<TextRange>;
-
-std::shared_ptr<const SearchExpression> search(const char16_t* query)
-{
-    return SearchExpression::make(QString::fromUtf16(query));
-}
 
 TEST(SearchExpression, AnEmptyQuerySearchesForNothing)
 {

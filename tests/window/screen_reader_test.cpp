@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
+#include "tests/window/control_names.h"
 #include "tests/window/window_fixture.h"
 
 #include <algorithm>
@@ -10,13 +11,10 @@ namespace {
 
 const QString kOpen = QStringLiteral("Ouvrir un fichier de log");
 const QString kFollowToggle = QStringLiteral("Suivre en direct (tail)");
-const QString kWrap = QStringLiteral("Activer le retour à la ligne");
-const QString kTextSize = QStringLiteral("Taille du texte");
 const QString kDeprecated = QStringLiteral("Afficher les lignes PHP Deprecated");
 const QString kWarning = QStringLiteral("Afficher les lignes PHP Warning");
 const QString kNotice = QStringLiteral("Afficher les lignes PHP Notice");
 const QString kOnlyErrors = QStringLiteral("Afficher uniquement Fatal/Error");
-const QString kSearch = QStringLiteral("Recherche");
 const QString kClear = QStringLiteral("Vider le contenu");
 const QString kContent = QStringLiteral("Contenu du log");
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/spin_until.h"
+#include "tests/window/control_names.h"
 #include "tests/window/window_fixture.h"
 
 namespace quillon {
@@ -8,10 +9,8 @@ namespace {
 const QColor kGreen(0, 0xE0, 0x40);
 const QByteArray kGreenFatal("[General]\nprefs.color.fatal=#00E040\n");
 const QString kFatalWell = QStringLiteral("Fatal / Error");
-const QString kWrap = QStringLiteral("Activer le retour à la ligne");
 const QString kWrapDefault = QStringLiteral("Retour à la ligne par défaut");
 const QString kSizeDefault = QStringLiteral("Taille de police par défaut");
-const QString kTextSize = QStringLiteral("Taille du texte");
 
 class Settings : public WindowTest {
 protected:

@@ -3,13 +3,13 @@
 // over the accessibility bus.
 #include "tests/support/spin_until.h"
 #include "tests/window/accessibility.h"
+#include "tests/window/control_names.h"
 #include "tests/window/wayland_desktop.h"
 #include "tests/window/window_fixture.h"
 
 namespace quillon {
 namespace {
 
-const QString kSearch = QStringLiteral("Recherche");
 constexpr QSize kScreen(1280, 800);
 
 // The parameter is the screen's scale.

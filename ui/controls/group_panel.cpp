@@ -14,7 +14,7 @@ constexpr int kPadding = 8;
 // Rounded corners take room beside the padding.
 constexpr int kEdge = 4;
 constexpr int kTitleGap = 6;
-constexpr double kCornerRadius = 8.0;
+constexpr double kPanelCornerRadius = 8.0;
 
 } // namespace
 
@@ -34,7 +34,7 @@ void GroupPanel::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(fontFor(TextStyle::Headline));
-    constexpr float kOutlineStrength = 0.13F;
+    constexpr float kPanelOutlineStrength = 0.13F;
     constexpr float kTintStrength = 0.035F;
     QColor tint = palette().color(QPalette::WindowText);
     painter.setPen(tint);
@@ -42,10 +42,10 @@ void GroupPanel::paintEvent(QPaintEvent* /*event*/)
                      title());
 
     const QRectF panel = QRectF(0, top, width(), height() - top).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(outlineColor(palette(), kOutlineStrength));
+    painter.setPen(outlineColor(palette(), kPanelOutlineStrength));
     tint.setAlphaF(kTintStrength);
     painter.setBrush(tint);
-    painter.drawRoundedRect(panel, kCornerRadius, kCornerRadius);
+    painter.drawRoundedRect(panel, kPanelCornerRadius, kPanelCornerRadius);
 }
 
 } // namespace quillon

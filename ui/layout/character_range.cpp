@@ -13,7 +13,6 @@ constexpr char16_t kFirstAscii = 0x20;
 constexpr char16_t kLastAscii = 0x7E;
 constexpr char16_t kFirstLatin = 0xA1;
 constexpr char16_t kLastLatin = 0x17F;
-constexpr char16_t kSoftHyphen = 0xAD;
 constexpr char16_t kFirstTypographic = 0x2012;
 constexpr char16_t kLastTypographic = 0x2022;
 constexpr char16_t kEllipsis = 0x2026;

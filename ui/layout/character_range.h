@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+inline constexpr QChar kSoftHyphen(0xAD);
+
 // The smallest of these sets that holds all characters of a text. Each contains the ones before it.
 // In most monospaced fonts all characters of the first three are equally wide.
 enum class CharacterRange : std::uint8_t {

@@ -14,7 +14,6 @@ namespace quillon {
 namespace {
 
 constexpr qsizetype kWidestNoted = std::numeric_limits<quint32>::max();
-constexpr QChar kSoftHyphen(0xAD);
 
 // Columns before the row's text: its number and a tab.
 qsizetype indentOf(const AttributedRow& row)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/layout/word_widths.h"
 
+#include "ui/layout/character_range.h"
+
 #include <QTextLayout>
 #include <QTextOption>
 
@@ -10,10 +12,9 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kMaximumKept = 16'384;
+constexpr std::size_t kMaximumWords = 16'384;
 // UTF-16 units. Longer words hardly repeat, and there may be one of two million.
 constexpr qsizetype kLongestWord = 64;
-constexpr QChar kSoftHyphen(0xAD);
 
 char32_t characterAt(QStringView text, qsizetype at)
 {
@@ -71,7 +72,7 @@ const MeasuredWord& WordWidths::measure(QStringView word, QChar::Script script)
     if (const auto known = words.find(key); known != words.end()) {
         return known->second;
     }
-    if (++m_count > kMaximumKept) {
+    if (++m_count > kMaximumWords) {
         for (Words& each : m_words) {
             each.clear();
         }

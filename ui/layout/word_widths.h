@@ -70,7 +70,7 @@ private:
     [[nodiscard]] MeasuredWord findMeasure(QStringView word, QChar::Script script);
     [[nodiscard]] Fixed advanceOf(const QString& text);
 
-    std::unique_ptr<QTextLayout> m_layout; // one for all
+    std::unique_ptr<QTextLayout> m_layout;          // one for all
     std::vector<Words> m_words{QChar::ScriptCount}; // by script
     std::size_t m_count = 0;
     // Of each script met with, a letter to begin a text in it with, and the advance of a space.

@@ -2,17 +2,13 @@
 #include "ui/theme/palette.h"
 
 #include "ui/theme/contrast.h"
+#include "ui/theme/shades.h"
 
 #include <array>
 
 namespace quillon {
 
 namespace {
-
-struct Shades {
-    QRgb light;
-    QRgb dark;
-};
 
 struct RoleShades {
     QPalette::ColorRole role;
@@ -49,7 +45,7 @@ constexpr std::array kRoleShades
 };
 
 // Where the contrast is high, these take the place of the above.
-constexpr std::array kHighContrastShades
+constexpr std::array kHighContrastRoleShades
 {
     RoleShades{QPalette::Window, {0xFFFFFFFF, 0xFF000000}, {0xFFFFFFFF, 0xFF000000}},
         RoleShades{QPalette::WindowText, {0xFF000000, 0xFFFFFFFF}, {0xFF595959, 0xFFA6A6A6}},
@@ -129,7 +125,7 @@ QPalette paletteFor(const PaletteStyle& style)
         fill(palette, row, style.appearance);
     }
     if (style.contrast == Contrast::High) {
-        for (const RoleShades& row : kHighContrastShades) {
+        for (const RoleShades& row : kHighContrastRoleShades) {
             fill(palette, row, style.appearance);
         }
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/theme/theme.h"
 
+#include "ui/theme/shades.h"
+
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScreen>
@@ -12,11 +14,6 @@
 namespace quillon {
 
 namespace {
-
-struct Shades {
-    QRgb light;
-    QRgb dark;
-};
 
 // In the order of SystemColor. A dark yellow or orange is what keeps such text readable on white.
 constexpr std::array kSystemShades{

@@ -18,7 +18,7 @@ namespace quillon {
 
 namespace {
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
+QAccessibleInterface* makeWindowInterface(const QString& /*className*/, QObject* object)
 {
     auto* const window = qobject_cast<AuxiliaryWindow*>(object);
     return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
@@ -29,7 +29,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 AuxiliaryWindow::AuxiliaryWindow(const QString& title, QScrollArea* content, QSize minimum)
     : m_content(content), m_minimum(minimum)
 {
-    QAccessible::installFactory(makeInterface);
+    QAccessible::installFactory(makeWindowInterface);
     setWindowTitle(title);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kSymbolSize = 40;
+constexpr int kHintSymbolSize = 40;
 constexpr int kSymbolGap = 12;
 constexpr int kFrameInset = 8;
 constexpr double kFrameWidth = 2.0;
@@ -88,8 +88,8 @@ void LogHint::paintText(QPainter& painter) const
     painter.setFont(fontFor(TextStyle::Body));
     const QString text = displayedText();
     QRect textBox = painter.boundingRect(rect(), Qt::AlignCenter, text);
-    textBox.translate(0, (kSymbolSize + kSymbolGap) / 2);
-    QRect symbolBox(0, 0, kSymbolSize, kSymbolSize);
+    textBox.translate(0, (kHintSymbolSize + kSymbolGap) / 2);
+    QRect symbolBox(0, 0, kHintSymbolSize, kHintSymbolSize);
     symbolBox.moveCenter(textBox.center());
     symbolBox.moveBottom(textBox.top() - kSymbolGap);
     if (m_isDropOffered) {

@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-constexpr QSize kMinimumSize(560, 520);
+constexpr QSize kMinimumWindowSize(560, 520);
 
 } // namespace
 
@@ -21,7 +21,7 @@ PreferencesWindow::PreferencesWindow(UserDefaults& defaults, NotificationCenter&
 
 // High enough to show every control at once, where the screen is.
 PreferencesWindow::PreferencesWindow(PreferencesView* view)
-    : AuxiliaryWindow(tr("Préférences"), view, kMinimumSize)
+    : AuxiliaryWindow(tr("Préférences"), view, kMinimumWindowSize)
 {
     const int wanted = std::max(minimumHeight(), view->widget()->sizeHint().height());
     resize(minimumWidth(), std::min(wanted, room().height()));

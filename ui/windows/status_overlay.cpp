@@ -14,12 +14,12 @@ namespace quillon {
 
 namespace {
 
-constexpr int kPadding = 6;
-constexpr int kSpacing = 12;
+constexpr int kStatusPadding = 6;
+constexpr int kStatusSpacing = 12;
 // A search that is typed changes the status with each key.
 constexpr std::chrono::milliseconds kAnnouncementDelay{400};
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
+QAccessibleInterface* makeOverlayInterface(const QString& /*className*/, QObject* object)
 {
     auto* const overlay = qobject_cast<StatusOverlay*>(object);
     return overlay != nullptr ? new QAccessibleWidget(overlay, QAccessible::StatusBar) : nullptr;
@@ -64,7 +64,7 @@ StatusOverlay::StatusOverlay(LogViewModel& viewModel, QWidget* parent)
       m_path(new ElidedLabel(Qt::ElideLeft, this)),
       m_announcement(kAnnouncementDelay, [this] { announce(); })
 {
-    QAccessible::installFactory(makeInterface);
+    QAccessible::installFactory(makeOverlayInterface);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_bindings.push_back(viewModel.statusLine.subscribe([this](const QString& status) {
@@ -98,8 +98,9 @@ void StatusOverlay::announce()
 
 QSize StatusOverlay::sizeHint() const
 {
-    return {m_status->sizeHint().width() + kSpacing + m_path->sizeHint().width() + 2 * kPadding,
-            m_status->sizeHint().height() + 2 * kPadding};
+    return {m_status->sizeHint().width() + kStatusSpacing + m_path->sizeHint().width() +
+                2 * kStatusPadding,
+            m_status->sizeHint().height() + 2 * kStatusPadding};
 }
 
 QSize StatusOverlay::minimumSizeHint() const
@@ -114,9 +115,10 @@ void StatusOverlay::resizeEvent(QResizeEvent* /*event*/)
 
 void StatusOverlay::placeLabels()
 {
-    const QRect room = rect().adjusted(kPadding, kPadding, -kPadding, -kPadding);
+    const QRect room =
+        rect().adjusted(kStatusPadding, kStatusPadding, -kStatusPadding, -kStatusPadding);
     const int statusWidth = std::clamp(m_status->sizeHint().width(), 0, std::max(0, room.width()));
-    const int pathLeft = room.left() + statusWidth + kSpacing;
+    const int pathLeft = room.left() + statusWidth + kStatusSpacing;
     const int pathRoom = std::max(0, room.right() + 1 - pathLeft);
     const int pathWidth = std::min(m_path->sizeHint().width(), pathRoom);
     m_status->setGeometry(room.left(), room.top(), statusWidth, room.height());

@@ -16,9 +16,9 @@ namespace {
 
 constexpr int kMinimumEditWidth = 220;
 constexpr int kMaximumWidth = 420;
-constexpr int kPadding = 6;
-constexpr int kSpacing = 6;
-constexpr int kSymbolSize = 16;
+constexpr int kFieldPadding = 6;
+constexpr int kFieldSpacing = 6;
+constexpr int kGlassSize = 16;
 
 } // namespace
 
@@ -36,9 +36,9 @@ ToolbarSearchField::ToolbarSearchField(QWidget* parent)
     m_edit->installEventFilter(this);
 
     auto* const layout = new QHBoxLayout(this);
-    layout->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
-    layout->setSpacing(kSpacing);
-    layout->addWidget(new SymbolLabel(Symbol::Search, kSymbolSize, this));
+    layout->setContentsMargins(kFieldPadding, kFieldPadding, kFieldPadding, kFieldPadding);
+    layout->setSpacing(kFieldSpacing);
+    layout->addWidget(new SymbolLabel(Symbol::Search, kGlassSize, this));
     layout->addWidget(m_edit, 1);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setMaximumWidth(kMaximumWidth);

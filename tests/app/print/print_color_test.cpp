@@ -2,6 +2,7 @@
 #include "app/print/ansi_palette.h"
 #include "app/print/color_choice.h"
 #include "app/print/terminal_color.h"
+#include "tests/app/print/print_words.h"
 #include "tests/app/print/pseudo_terminal.h"
 #include "tests/app/print/quillon_process.h"
 #include "tests/support/printing.h"
@@ -14,8 +15,6 @@ namespace quillon {
 
 namespace {
 
-const QString kLog = QStringLiteral("debug.log");
-const QString kPrint = QStringLiteral("--print");
 const QString kAlways = QStringLiteral("--color=always");
 const QuillonProcess::Environment kTrueColor{
     {QStringLiteral("COLORTERM"), QStringLiteral("truecolor")}};

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/print/print_words.h"
 #include "tests/app/print/quillon_process.h"
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
@@ -16,8 +17,6 @@
 namespace quillon {
 
 namespace {
-
-const QString kLog = QStringLiteral("debug.log");
 
 // Longer than two looks at the file and the model's first own pass together.
 constexpr auto kSeveralLooks = std::chrono::milliseconds(1300);

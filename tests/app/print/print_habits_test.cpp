@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What people type by habit in other tools.
+#include "tests/app/print/print_words.h"
 #include "tests/app/print/quillon_process.h"
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
@@ -11,9 +12,6 @@
 namespace quillon {
 
 namespace {
-
-const QString kFirst = QStringLiteral("a.log");
-const QString kSecond = QStringLiteral("b.log");
 
 class PrintHabits : public testing::Test {
 protected:

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/app/print/print_words.h"
 #include "tests/app/print/quillon_process.h"
 #include "tests/support/printing.h"
 #include "tests/support/test_data.h"
@@ -12,8 +13,6 @@
 namespace quillon {
 
 namespace {
-
-const QString kLog = QStringLiteral("debug.log");
 
 QList<QJsonObject> objectsIn(const QByteArray& output)
 {

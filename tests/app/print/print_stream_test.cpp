@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Standard input and pipes.
+#include "tests/app/print/print_words.h"
 #include "tests/app/print/quillon_process.h"
 #include "tests/support/printing.h"
 #include "tests/support/spin_until.h"
@@ -19,8 +20,6 @@
 namespace quillon {
 
 namespace {
-
-const QString kPrint = QStringLiteral("--print");
 
 // The program with its standard input in our hands.
 class PipedQuillon : public QuillonProcess {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Print mode at a terminal: what is typed there, and that all habits work there as in a pipe.
+#include "tests/app/print/print_words.h"
 #include "tests/app/print/pseudo_terminal.h"
 #include "tests/app/print/quillon_process.h"
 #include "tests/support/printing.h"
@@ -17,8 +18,6 @@ namespace quillon {
 
 namespace {
 
-const QString kFirst = QStringLiteral("a.log");
-const QString kSecond = QStringLiteral("b.log");
 const QString kWithoutColor = QStringLiteral("--color=never");
 
 // The program at a terminal of its own, as somebody who sits there starts it.
