@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kHintSymbolSize = 40;
 constexpr int kSymbolGap = 12;
-constexpr int kFrameInset = 8;
+constexpr int kFrameInset = 3; // around the status too
 constexpr double kFrameWidth = 2.0;
 constexpr double kCornerRadius = 8.0;
 constexpr QMargins kPlatePadding(24, 20, 24, 20);
