@@ -61,11 +61,17 @@ def children(node):
     return [child for child in found if child is not None]
 
 
+def role_of(node):
+    # Since AT-SPI 2.54 such a button has the shorter name.
+    name = node.get_role_name()
+    return "push button" if name == "button" else name
+
+
 def described(node):
     box = node.get_extents(Atspi.CoordType.SCREEN)
     interfaces = node.get_interfaces()
     return {
-        "role": node.get_role_name(),
+        "role": role_of(node),
         "name": node.get_name(),
         "description": node.get_description(),
         "states": [state.value_nick for state in node.get_state_set().get_states()],
@@ -87,7 +93,7 @@ def tree(request):
 def find(node, role, name):
     if node is None:
         return None
-    if node.get_role_name() == role and node.get_name() == name:
+    if role_of(node) == role and node.get_name() == name:
         return node
     return next(filter(None, (find(child, role, name) for child in children(node))), None)
 
@@ -114,7 +120,7 @@ def collect(event):
                 event.detail1,
                 source.get_name(),
                 text,
-                source.get_role_name(),
+                role_of(source),
             )
         )
 

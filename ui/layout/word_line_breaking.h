@@ -19,7 +19,8 @@ struct WordLines {
     // text as well.
     Fixed widest = 0;
     // The width of the whole text on one line without the spaces at its end: what a text layout
-    // makes it where lines are not broken, where they are, no more than that.
+    // makes it where lines are not broken. Where they are, a line that is narrower by a column does
+    // not hold it.
     Fixed oneLine = 0;
 };
 
