@@ -4,6 +4,7 @@
 #include "platform/utf16_block.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quillon {
 
@@ -15,6 +16,12 @@ constexpr bool foldsToAscii(char16_t unit)
            (unit >= 0x1E96 && unit <= 0x1E9A) || unit == 0x1E9E || unit == 0x212A ||
            (unit >= 0xFB00 && unit <= 0xFB06);
 }
+
+// What whole characters fold to, without those that contain another one of them: "ss", "st", "ffi"
+// and "ffl".
+constexpr std::array kFoldings{QLatin1StringView("s"), QLatin1StringView("k"),
+                               QLatin1StringView("ff"), QLatin1StringView("fi"),
+                               QLatin1StringView("fl")};
 
 constexpr qsizetype kUnitsAtATime = 64;
 
@@ -33,6 +40,13 @@ bool hasCharacterFoldingToAscii(QStringView text)
         }
     }
     return false;
+}
+
+bool isFoldedTo(QLatin1StringView word)
+{
+    return std::any_of(kFoldings.begin(), kFoldings.end(), [word](QLatin1StringView folding) {
+        return word.contains(folding, Qt::CaseInsensitive);
+    });
 }
 
 } // namespace quillon

@@ -17,7 +17,7 @@ constexpr qsizetype kEverywhere = std::numeric_limits<qsizetype>::max();
 RowMarks::RowMarks(const SearchExpression& search, QString row, TextRange text)
     : m_search(search), m_row(std::move(row)), m_text(text),
       m_canCompareLetters((search.m_plainWord || search.m_requiredWord) &&
-                          SearchExpression::canCompareLetters(m_row)),
+                          search.canCompareLetters(m_row)),
       m_point{0, 0, MatchingBudget::forMarks(m_row.size())},
       m_behindPoint(SearchPoint::beginningOf(m_row))
 {

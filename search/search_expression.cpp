@@ -50,12 +50,17 @@ SearchExpression::SearchExpression(const QString& query)
 
 void SearchExpression::takeShortcuts(const QString& pattern)
 {
+    const auto searchFor = [this](const QString& word) {
+        const QByteArray letters = word.toLatin1();
+        m_isWordFoldedTo = isFoldedTo(QLatin1StringView(letters));
+        return AsciiSearch(QLatin1StringView(letters));
+    };
     if (isPlainWord(pattern)) {
-        m_plainWord.emplace(QLatin1StringView(pattern.toLatin1()));
+        m_plainWord = searchFor(pattern);
         return;
     }
     if (const QString word = requiredWordOf(pattern); !word.isEmpty()) {
-        m_requiredWord.emplace(QLatin1StringView(word.toLatin1()));
+        m_requiredWord = searchFor(word);
     }
     if (const auto parts = leadingWildcardsOf(pattern)) {
         const auto compiled = [](const QString& part) {
@@ -78,9 +83,9 @@ std::shared_ptr<const SearchExpression> SearchExpression::make(const QString& qu
     return std::shared_ptr<const SearchExpression>(new SearchExpression(query));
 }
 
-bool SearchExpression::canCompareLetters(QStringView text)
+bool SearchExpression::canCompareLetters(QStringView text) const
 {
-    return !hasCharacterFoldingToAscii(text);
+    return !m_isWordFoldedTo || !hasCharacterFoldingToAscii(text);
 }
 
 Verdict SearchExpression::decide(const QString& text) const

@@ -52,7 +52,7 @@ private:
     void takeShortcuts(const QString& pattern);
 
     // Whether the plain word and the required word can be relied on in that text.
-    [[nodiscard]] static bool canCompareLetters(QStringView text);
+    [[nodiscard]] bool canCompareLetters(QStringView text) const;
 
     // One of these two is set.
     std::unique_ptr<RegularExpression> m_expression;
@@ -65,6 +65,9 @@ private:
     // expression. Measured on 2 MiB of log with an expression that a sixth of the lines match: 5 ms
     // instead of 10.
     std::optional<AsciiSearch> m_requiredWord;
+    // Of nearly all words that are searched for no text need be asked whether it has something else
+    // that is the same without regard to case, which takes as long as looking for the word.
+    bool m_isWordFoldedTo = false;
 };
 
 } // namespace quillon

@@ -61,5 +61,37 @@ TEST(CharacterFoldingToAscii, IsFoundAnywhereInALongText)
     }
 }
 
+bool isAscii(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < 0x80; });
+}
+
+TEST(WordsFoldedTo, AreThoseThatContainWhatAWholeCharacterFoldsTo)
+{
+    QStringList foldings;
+    for (char32_t character = 0x80; character <= 0xFFFF; ++character) {
+        // Byte order marks get lost on the way into a QString.
+        const QString folding = QChar::isSurrogate(character) ? QString() : foldCase(character);
+        if (!folding.isEmpty() && isAscii(folding)) {
+            foldings.append(folding);
+        }
+    }
+    ASSERT_TRUE(foldings.contains(QStringLiteral("ss")));
+    const auto expectAsContained = [&](const QString& word) {
+        const bool isExpected =
+            std::any_of(foldings.begin(), foldings.end(),
+                        [&](const QString& folding) { return word.toLower().contains(folding); });
+        EXPECT_EQ(isFoldedTo(QLatin1StringView(word.toLatin1())), isExpected) << qPrintable(word);
+    };
+    for (char16_t first = 0x20; first < 0x7F; ++first) {
+        for (char16_t second = 0x20; second < 0x7F; ++second) {
+            for (char16_t third : {u'a', u'f', u'i', u'L', u'S'}) {
+                const char16_t word[] = {first, second, third};
+                expectAsContained(QString::fromUtf16(word, 3));
+            }
+        }
+    }
+}
+
 } // namespace
 } // namespace quillon
