@@ -9,6 +9,7 @@
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "ui/layout/log_text_layout.h"
+#include "ui/layout/metrics_cache.h"
 #include "ui/layout/severity_marks.h"
 #include "ui/log_text/log_text_view.h"
 #include "ui/theme/theme.h"
@@ -203,6 +204,23 @@ void dragShaped(benchmark::State& state, const char* phrase)
 BENCHMARK_CAPTURE(dragShaped, Arabic, kArabic)->Unit(benchmark::kMillisecond)->Iterations(80);
 BENCHMARK_CAPTURE(dragShaped, accent, kAccent)->Unit(benchmark::kMillisecond)->Iterations(80);
 BENCHMARK_CAPTURE(dragShaped, emoji, kEmoji)->Unit(benchmark::kMillisecond)->Iterations(80);
+
+// Another text size, there and back.
+void resizeShaped(benchmark::State& state, const char* phrase)
+{
+    const AttributedString text = Styled(logWithPhrase(phrase)).text();
+    MetricsCache sizes;
+    LogTextLayout layout;
+    double size = 13;
+    for (auto _ : state) {
+        size = size == 13 ? 15 : 13;
+        const auto metrics = sizes.atSize(size);
+        const Fixed column = metrics->columnAdvance();
+        layout.layOut(text, metrics, 120 * column + column / 2);
+    }
+}
+BENCHMARK_CAPTURE(resizeShaped, Arabic, kArabic)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(resizeShaped, emoji, kEmoji)->Unit(benchmark::kMillisecond);
 
 // Which rows of a text that replaces another are severe.
 void gatherSevereRows(benchmark::State& state)

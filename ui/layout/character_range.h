@@ -22,6 +22,11 @@ enum class CharacterRange : std::uint8_t {
 CharacterRange characterRangeOf(QStringView text);
 CharacterRange characterRangeOf(QChar character);
 
+inline bool isAsciiLetter(QChar character)
+{
+    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
+}
+
 // The length of the text's beginning that is of range Ascii, in whole blocks of eight UTF-16 units,
 // which are looked at together.
 qsizetype asciiBlocks(QStringView text);

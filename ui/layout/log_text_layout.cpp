@@ -67,8 +67,10 @@ void LogTextLayout::forgetFont()
     m_longRows.clear();
     m_knownRows.clear();
     for (const qsizetype row : m_mixedRows) {
+        const RowMeasure& former = m_measures.at(row);
         RowMeasure unknown;
-        unknown.asciiLength = m_measures.at(row).asciiLength;
+        unknown.asciiLength = former.asciiLength;
+        unknown.shaping = std::min(former.shaping, RowShaping::ByWords);
         m_measures[row] = unknown;
     }
 }
@@ -76,7 +78,7 @@ void LogTextLayout::forgetFont()
 void LogTextLayout::keepShapedRows()
 {
     for (const qsizetype index : m_mixedRows) {
-        if (m_measures.at(index).isShaped) {
+        if (m_measures.at(index).shaping == RowShaping::ByLayout) {
             const AttributedRow& row = m_text.rows()[index];
             m_knownRows.insert(row.text().constData(),
                                KnownRow{row.text(), row.prefixLength(), m_measures.at(index)});

@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <cstdint>
 #include <limits>
 #include <optional>
 
@@ -45,6 +46,10 @@ private:
     std::array<Span, 2> m_spans; // latest first
 };
 
+// What it takes to find out how wide a row of many widths is. Whether characters need shaping is
+// the same in all fonts; by words, those do that are known.
+enum class RowShaping : std::uint8_t { Unknown, None, ByWords, ByLayout };
+
 // What is kept of a row so that its extent need not be asked from its text again. Of a row of range
 // Any it holds for one font, since its characters are of many widths.
 struct RowMeasure {
@@ -53,8 +58,7 @@ struct RowMeasure {
     // known. What is beyond 32 bits is cut off to their largest.
     quint32 width = 0;
     CharacterRange range = CharacterRange::Any;
-    // Whether it takes a text layout to look at the row again; known once one has been made.
-    bool isShaped = false;
+    RowShaping shaping = RowShaping::Unknown;
     // Of a row of range Any: UTF-16 units at its beginning that are known to be ASCII.
     quint16 asciiLength = 0;
     KnownLineCounts lineCounts;

@@ -65,9 +65,12 @@ RowExtent RowMeasurer::measure(const AttributedRow& row, RowMeasure& measure) co
         indentOf(row) * m_metrics.columnAdvance() < *m_lineWidth) {
         return measureUniform(row, measure);
     }
-    return m_metrics.needsShaping(QStringView(row.text()).sliced(measure.asciiLength))
-               ? measureShaped(row, measure)
-               : measureMixed(row, measure);
+    if (measure.shaping == RowShaping::Unknown) {
+        const QStringView unknown = QStringView(row.text()).sliced(measure.asciiLength);
+        measure.shaping = m_metrics.needsShaping(unknown) ? RowShaping::ByWords : RowShaping::None;
+    }
+    return measure.shaping == RowShaping::None ? measureMixed(row, measure)
+                                               : measureShaped(row, measure);
 }
 
 RowExtent RowMeasurer::measureUniform(const AttributedRow& row, RowMeasure& measure) const
@@ -150,7 +153,7 @@ RowExtent RowMeasurer::measureShaped(const AttributedRow& row, RowMeasure& measu
 
 RowExtent RowMeasurer::measureByLayout(const AttributedRow& row, RowMeasure& measure) const
 {
-    measure.isShaped = true;
+    measure.shaping = RowShaping::ByLayout;
     const QString text = displayedText(row);
     const bool hasRoom = !m_lineWidth || indentOf(row) * m_metrics.columnAdvance() <= *m_lineWidth;
     const bool endsInSpace = text.back().isSpace();

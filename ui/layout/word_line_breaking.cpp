@@ -20,11 +20,6 @@ bool isPlain(QChar::Script script)
     return script == QChar::Script_Common || script == QChar::Script_Latin;
 }
 
-bool isAsciiLetter(QChar character)
-{
-    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
-}
-
 qsizetype contentBefore(QStringView text, qsizetype end)
 {
     while (end > 0 && text[end - 1] == u' ') {

@@ -54,6 +54,9 @@ WordWidths::~WordWidths() = default;
 QChar::Script WordWidths::scriptAtStart(QStringView text)
 {
     for (qsizetype at = 0; at < text.size(); ++at) {
+        if (isAsciiLetter(text[at])) {
+            return QChar::Script_Latin;
+        }
         if (const char32_t character = characterAt(text, at); hasScript(character)) {
             const QChar::Script script = QChar::script(character);
             if (!m_letters.contains(script)) {
