@@ -3,6 +3,7 @@
 
 #include "platform/utf16_block.h"
 #include "ui/layout/control_letters.h"
+#include "ui/layout/design_advances.h"
 #include "ui/layout/displayed_text.h"
 #include "ui/layout/word_widths.h"
 
@@ -85,7 +86,7 @@ bool MonospaceMetrics::examineUpTo(CharacterRange range) const
         if (next <= m_uniformRange) {
             continue;
         }
-        if (haveColumnAdvance(charactersOf(next))) {
+        if (haveColumnAdvance(next)) {
             m_uniformRange = next;
         } else {
             m_mixedRange = next;
@@ -94,13 +95,22 @@ bool MonospaceMetrics::examineUpTo(CharacterRange range) const
     return range <= m_uniformRange;
 }
 
-// Asks the font itself, not a layout for each character: this runs whenever the size changes.
-bool MonospaceMetrics::haveColumnAdvance(const QString& characters) const
+// Asks the font itself, not a layout for each character: this runs whenever the size changes. What
+// has the design advance of a digit has the column advance at any size; asking for that of each
+// letter of Europe would load their outlines, which no log shows all (3 ms of a start).
+bool MonospaceMetrics::haveColumnAdvance(CharacterRange range) const
 {
     const QRawFont& raw = m_faces[0].raw;
+    const QString characters = charactersOf(range);
     const QList<quint32> glyphs = raw.glyphIndexesForString(characters);
     if (glyphs.size() != characters.size() || glyphs.contains(0)) {
         return false;
+    }
+    const DesignAdvances design(raw);
+    const auto column = design.of(raw.glyphIndexesForString(QStringLiteral("0")).front());
+    if (range != CharacterRange::Ascii && column) {
+        return std::all_of(glyphs.begin(), glyphs.end(),
+                           [&](quint32 glyph) { return design.of(glyph) == column; });
     }
     const QList<QPointF> advances = raw.advancesForGlyphIndexes(glyphs, QRawFont::SeparateAdvances);
     return std::all_of(advances.begin(), advances.end(), [this](const QPointF& advance) {

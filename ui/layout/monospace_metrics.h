@@ -116,7 +116,7 @@ private:
 
     // Finds out about the ranges up to this one, and tells whether it is uniform.
     bool examineUpTo(CharacterRange range) const;
-    [[nodiscard]] bool haveColumnAdvance(const QString& characters) const;
+    [[nodiscard]] bool haveColumnAdvance(CharacterRange range) const;
     [[nodiscard]] std::optional<Fixed> findAdvance(char16_t character) const;
     Glyph glyphIn(Face& face, char16_t character) const;
     [[nodiscard]] Glyph findGlyph(char16_t character, const Face& face) const;
