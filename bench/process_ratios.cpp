@@ -92,6 +92,11 @@ QString writeLog(const QTemporaryDir& folder, const QByteArray& log, const char*
     return file.fileName();
 }
 
+double startOfToolkit(const QString& path)
+{
+    return startWindow(beside("quillon_toolkit_probe"), {path}).milliseconds;
+}
+
 void compareStart(RatioTable& table, const QString& path)
 {
     const QString program = beside("quillon_window_probe");
@@ -111,6 +116,9 @@ void compareStart(RatioTable& table, const QString& path)
                            comparePairs(start, startWithText, 21));
     table.addForComparison(QStringLiteral("a bare Qt window with a line of text | without"),
                            comparePairs(startWithText, startBare, 21));
+    table.addForComparison(
+        QStringLiteral("cold start to the painted log | the same of the toolkit’s own parts"),
+        comparePairs(start, [&] { return startOfToolkit(path); }));
     std::vector<double> differences;
     for (int pair = 0; pair < 9; ++pair) {
         differences.push_back(startWindow(program, {path}).residentBytes -
@@ -132,6 +140,10 @@ void compareShortStart(RatioTable& table, const QTemporaryDir& folder)
     };
     table.add(QStringLiteral("cold start, 300 lines | window with a line"),
               comparePairs(start, startWithText, 21), 1.3);
+    table.addForComparison(
+        QStringLiteral("cold start, 300 lines | the same of the toolkit’s own parts"),
+        comparePairs(
+            start, [&] { return startOfToolkit(path); }, 21));
 }
 
 void compareStartsInScripts(RatioTable& table, const QTemporaryDir& folder)
