@@ -28,6 +28,15 @@ qsizetype contentBefore(QStringView text, qsizetype end)
     return end;
 }
 
+// Words are so short that calling a search for their end takes longer than looking.
+qsizetype wordEnd(QStringView text, qsizetype at)
+{
+    while (at < text.size() && text[at] != u' ') {
+        ++at;
+    }
+    return at;
+}
+
 qsizetype spacesEnd(QStringView text, qsizetype at)
 {
     while (at < text.size() && text[at] == u' ') {
@@ -90,8 +99,7 @@ bool WordLineBreaker::Walk::take(QStringView text, qsizetype asciiLength)
             at = end;
         }
         if (at < text.size()) {
-            const qsizetype space = text.indexOf(u' ', at);
-            const qsizetype end = space < 0 ? text.size() : space;
+            const qsizetype end = wordEnd(text, at);
             const MeasuredWord& word = words.measure(text.sliced(at, end - at), script);
             if (!addWord(word)) {
                 return false;

@@ -12,6 +12,7 @@ namespace quillon {
 
 namespace {
 
+constexpr QChar kFirstBeyondAscii(0x80);
 constexpr std::size_t kMaximumWords = 16'384;
 // UTF-16 units. Longer words hardly repeat, and there may be one of two million.
 constexpr qsizetype kLongestWord = 64;
@@ -56,6 +57,9 @@ QChar::Script WordWidths::scriptAtStart(QStringView text)
     for (qsizetype at = 0; at < text.size(); ++at) {
         if (isAsciiLetter(text[at])) {
             return QChar::Script_Latin;
+        }
+        if (text[at] < kFirstBeyondAscii) {
+            continue;
         }
         if (const char32_t character = characterAt(text, at); hasScript(character)) {
             const QChar::Script script = QChar::script(character);
