@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/row_patterns.h"
 
+#include "platform/ascii.h"
+
 #include <QString>
 
 #include <array>
@@ -33,16 +35,9 @@ const RegularExpression& dumpExpression()
     return *expression;
 }
 
-bool isAsciiLetter(QChar character)
-{
-    const auto lower = static_cast<char16_t>(character.unicode() | 0x20U);
-    return lower >= u'a' && lower <= u'z';
-}
-
 bool isAsciiWordCharacter(QChar character)
 {
-    return isAsciiLetter(character) || character == u'_' ||
-           (character >= u'0' && character <= u'9');
+    return isAsciiLetter(character) || character == u'_' || isAsciiDigit(character);
 }
 
 bool isAsciiSpace(QChar character)

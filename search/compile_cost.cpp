@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "search/compile_cost.h"
 
+#include "platform/ascii.h"
+
 namespace quillon {
 
 namespace {
 
 constexpr int kMostLargeSets = 64;
 constexpr int kMostGroups = 1'000;
-
-bool isAsciiLetter(QChar character)
-{
-    const auto lower = static_cast<char16_t>(character.unicode() | 0x20U);
-    return lower >= u'a' && lower <= u'z';
-}
 
 } // namespace
 

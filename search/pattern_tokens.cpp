@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "search/pattern_tokens.h"
 
+#include "platform/ascii.h"
+
 #include <QLatin1StringView>
 
 namespace quillon {
@@ -16,9 +18,7 @@ bool isOneOf(QChar character, QLatin1StringView characters)
 
 bool isAsciiAlphanumeric(QChar character)
 {
-    const auto unit = character.unicode();
-    return (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') ||
-           (unit >= u'a' && unit <= u'z');
+    return isAsciiDigit(character) || isAsciiLetter(character);
 }
 
 bool isAsciiMark(QChar character)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/required_word.h"
 
+#include "platform/ascii.h"
 #include "search/pattern_tokens.h"
 
 #include <optional>
@@ -10,11 +11,6 @@ namespace quillon {
 namespace {
 
 using Kind = PatternToken::Kind;
-
-bool isPrintableAscii(QChar character)
-{
-    return character.unicode() >= 0x20 && character.unicode() < 0x7F;
-}
 
 class Reader {
 public:

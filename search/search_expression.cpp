@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/search_expression.h"
 
+#include "platform/ascii.h"
 #include "search/case_folding.h"
 #include "search/leading_wildcard.h"
 #include "search/required_word.h"
@@ -19,21 +20,14 @@ QString patternOf(const QString& query)
     return query;
 }
 
-bool isPlainAscii(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar character) {
-        return character.unicode() >= 0x20 && character.unicode() < 0x7F;
-    });
-}
-
-// No character that means something in an expression. White space does not: free-spacing mode is
-// off unless a pattern turns it on, for which it needs a parenthesis.
+// Of printable ASCII, with no character that means something in an expression. White space does
+// not: free-spacing mode is off unless a pattern turns it on, for which it needs a parenthesis.
 bool isPlainWord(const QString& pattern)
 {
     static constexpr QLatin1StringView kMeta("\\^$.|?*+()[]{}");
-    return !pattern.isEmpty() && isPlainAscii(pattern) &&
-           std::none_of(pattern.begin(), pattern.end(),
-                        [](QChar character) { return kMeta.contains(character); });
+    return !pattern.isEmpty() && std::all_of(pattern.begin(), pattern.end(), [](QChar character) {
+        return isPrintableAscii(character) && !kMeta.contains(character);
+    });
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/layout/break_opportunities.h"
 
+#include "platform/ascii.h"
 #include "ui/layout/displayed_text.h"
 
 #include <QString>
@@ -20,17 +21,11 @@ constexpr char16_t kLastVisible = u'~';
 constexpr qsizetype kReachBefore = 64;
 constexpr qsizetype kReachAfter = 16;
 
-constexpr bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
-
 // What no number goes on behind or before: letters and the marks that are no part of any.
 constexpr bool isNoNumber(QChar character)
 {
     constexpr QStringView kMarks = u"!?\"'#&*<=>@^_`~|";
-    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z') ||
-           kMarks.contains(character);
+    return isAsciiLetter(character) || kMarks.contains(character);
 }
 
 constexpr bool isSeparator(QChar character)
@@ -41,14 +36,15 @@ constexpr bool isSeparator(QChar character)
 
 constexpr bool isNumeric(QChar character)
 {
-    return isDigit(character) || isSeparator(character) || character == u' ';
+    return isAsciiDigit(character) || isSeparator(character) || character == u' ';
 }
 
 // The most usual case by far, in times, versions and addresses: behind a separator between two
 // digits. Brackets next to the number may still break it up, so it has to stand between others.
 bool isInsideNumber(QStringView text, qsizetype at)
 {
-    if (at < 2 || !isDigit(text[at]) || !isSeparator(text[at - 1]) || !isDigit(text[at - 2])) {
+    if (at < 2 || !isAsciiDigit(text[at]) || !isSeparator(text[at - 1]) ||
+        !isAsciiDigit(text[at - 2])) {
         return false;
     }
     const qsizetype first = std::max<qsizetype>(0, at - kReachBefore);
@@ -62,7 +58,7 @@ bool isInsideNumber(QStringView text, qsizetype at)
         ++after;
     }
     const QChar lead = text[before];
-    const bool endsWithText = after == text.size() - 1 && isDigit(text[after]);
+    const bool endsWithText = after == text.size() - 1 && isAsciiDigit(text[after]);
     return (isNoNumber(lead) || lead == u'-' || lead == u'[') &&
            (isNoNumber(text[after]) || endsWithText);
 }

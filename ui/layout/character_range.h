@@ -18,14 +18,9 @@ enum class CharacterRange : std::uint8_t {
     Any,
 };
 
-// The range of a text. A long text of range Any is not read to its end.
+// The range of a text. Behind the eight units that make it Any, a text is not read.
 CharacterRange characterRangeOf(QStringView text);
 CharacterRange characterRangeOf(QChar character);
-
-inline bool isAsciiLetter(QChar character)
-{
-    return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
-}
 
 // The length of the text's beginning that is of range Ascii, in whole blocks of eight UTF-16 units,
 // which are looked at together.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/layout/word_line_breaking.h"
 
+#include "platform/ascii.h"
 #include "platform/utf16_block.h"
 #include "ui/layout/break_opportunities.h"
 #include "ui/layout/character_range.h"

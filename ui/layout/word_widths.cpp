@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/layout/word_widths.h"
 
+#include "platform/ascii.h"
 #include "ui/layout/character_range.h"
 
 #include <QTextLayout>
