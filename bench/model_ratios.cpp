@@ -74,7 +74,7 @@ void compareOpening(RatioTable& table)
     };
     table.add(QStringLiteral("open to complete attributedOutput | read+fromUtf8"),
               comparePairs(open, bare, 15), 15);
-    table.addForComparison(QStringLiteral("and every row's look worked out | read+fromUtf8"),
+    table.addForComparison(QStringLiteral("and every row's style worked out | read+fromUtf8"),
                            comparePairs([&] { return place.openTime(path); }, bare, 15));
 
     QFile sparse(place.folder.filePath(QStringLiteral("sparse.log")));

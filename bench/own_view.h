@@ -87,7 +87,7 @@ public:
         m_viewModel.openLog(QUrl::fromLocalFile(m_file.fileName()));
         m_viewModel.invalidatePollTimer();
         m_file.write(start);
-        // One look takes a part of what is found.
+        // One poll takes a part of what is found.
         const auto count = start.count('\n');
         while (static_cast<qsizetype>(m_viewModel.lines.get().size()) < count) {
             m_viewModel.pollTail();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The life of a followed log: appended to, truncated, replaced, deleted between looks, as the bytes
-// say. After each look the view model must show what a simple model of the file and of the rules
+// The life of a followed log: appended to, truncated, replaced, deleted between polls, as the bytes
+// say. After each poll the view model must show what a simple model of the file and of the rules
 // says: reading goes on, in the file that was opened, where the named file last ended.
 #include "fuzz/require.h"
 #include "model/log_view_model.h"
@@ -88,7 +88,7 @@ public:
         m_named.reset();
         QFile::remove(m_world.path);
     }
-    void look()
+    void poll()
     {
         m_world.viewModel.pollTail();
         if (m_named && m_named->size() > m_offset) {
@@ -177,7 +177,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
             life.append(takePiece(bytes));
             break;
         }
-        life.look();
+        life.poll();
     }
     return 0;
 }

@@ -9,9 +9,9 @@ namespace quillon {
 
 namespace {
 
-// Lines after which a look at the clock is worth its price. One line takes a few milliseconds at
+// Lines after which the clock is worth asking. One line takes a few milliseconds at
 // most, but for a long one, which is decided bit by bit.
-constexpr qsizetype kLinesPerLook = 4;
+constexpr qsizetype kLinesPerClockCheck = 4;
 
 } // namespace
 
@@ -56,8 +56,8 @@ bool DisplayPass::goOn(const std::function<bool()>& isEnough)
             m_point = DecisionPoint();
             ++m_next;
         }
-        const bool isTimeToLook = !verdict || m_next % kLinesPerLook == 0;
-        if (isTimeToLook && m_next < m_lines.size() && isEnough()) {
+        const bool isTimeToAsk = !verdict || m_next % kLinesPerClockCheck == 0;
+        if (isTimeToAsk && m_next < m_lines.size() && isEnough()) {
             return false;
         }
     }

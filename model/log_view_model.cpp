@@ -34,8 +34,8 @@ LogViewModel::LogViewModel(UserDefaults& defaults, NotificationCenter& notificat
       m_defaultsChanges(kDefaultsQuietPeriod, [this] { recompute(); })
 {
     // Keys, clicks and painting come in between.
-    m_nextLook.setSingleShot(true);
-    connect(&m_nextLook, &QTimer::timeout, this, [this] { pollTail(); });
+    m_nextPoll.setSingleShot(true);
+    connect(&m_nextPoll, &QTimer::timeout, this, [this] { pollTail(); });
     m_defaults.registerDefaults(defaultPreferences());
     connect(&m_nextSlice, &QTimer::timeout, this, [this] { goOn(); });
     reloadDisplayDefaults();
@@ -129,8 +129,8 @@ void LogViewModel::startTail()
     pollTimer = std::make_unique<QTimer>();
     pollTimer->setInterval(kPollInterval);
     connect(pollTimer.get(), &QTimer::timeout, this, [this] {
-        // A look that is due anyway takes as much as one turn of the event loop should.
-        if (!m_nextLook.isActive()) {
+        // A poll that is due anyway takes as much as one turn of the event loop should.
+        if (!m_nextPoll.isActive()) {
             pollTail();
         }
     });
@@ -139,7 +139,7 @@ void LogViewModel::startTail()
 
 void LogViewModel::invalidatePollTimer()
 {
-    m_nextLook.stop();
+    m_nextPoll.stop();
     if (pollTimer) {
         pollTimer->stop();
         // The timer may be the very one whose tick led here.
@@ -163,19 +163,19 @@ Subscription LogViewModel::observePolls(std::function<void()> callback)
 
 void LogViewModel::readTail()
 {
-    auto look = readTailGrowth(pathOfFileUrl(*fileURL), lastFileSize, readHandle);
-    if (!look) {
-        fail(tr("Erreur lecture tail: %1"), look.error());
+    auto found = readTailGrowth(pathOfFileUrl(*fileURL), lastFileSize, readHandle);
+    if (!found) {
+        fail(tr("Erreur lecture tail: %1"), found.error());
         return;
     }
     m_lastError.reset();
-    if (!look.value()) {
+    if (!found.value()) {
         return;
     }
-    const TailGrowth& growth = *look.value();
+    const TailGrowth& growth = *found.value();
     lastFileSize = growth.nextOffset;
     if (growth.hasMore) {
-        m_nextLook.start();
+        m_nextPoll.start();
     }
     const LogLines newLines = parseTail(growth.bytes, lines.get());
     if (newLines.isEmpty()) {

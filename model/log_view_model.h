@@ -30,7 +30,7 @@ struct DisplayOptions;
 // its published fields and hold no log state of their own. It opens and follows files, and filters
 // and styles their lines whenever something changes that shows: 60 ms after the last change of a
 // display option, 120 ms after the last change of the user defaults, at once when the preferences
-// window has closed. A pass that has used a slice of processor time goes on in the next turns of
+// window has closed. A pass that has used 50 ms of processor time goes on in the next turns of
 // the event loop, so that no query keeps the window from answering. Failures become a French
 // sentence in statusLine and leave the rest as it is.
 //
@@ -73,7 +73,7 @@ public:
     std::optional<ReadHandle> readHandle;
     // Looks for appended lines twice a second while it exists.
     std::unique_ptr<QTimer> pollTimer;
-    // The file's size in bytes at the last load or successful look; the next look starts there.
+    // The file's size in bytes at the last load or successful poll; the next poll starts there.
     quint64 lastFileSize = 0;
     std::vector<Subscription> cancellables;
 
@@ -87,23 +87,23 @@ public:
     // Empties the display. The file stays open.
     void clearContent();
 
-    // Starts looking for appended lines every half second.
+    // Starts polling for appended lines every half second.
     void startTail();
-    // Stops looking, without turning following off.
+    // Stops polling, without turning following off.
     void invalidatePollTimer();
-    // One look for appended lines. Where it finds more than kLookBytes it shows that much and goes
+    // One poll for appended lines. Where it finds more than kPollBytes it shows that much and goes
     // on in the next turns of the event loop.
     void pollTail();
-    // Calls back after each look for appended lines, whatever came of it.
+    // Calls back after each poll for appended lines, whatever came of it.
     [[nodiscard]] Subscription observePolls(std::function<void()> callback);
 
-    // Why the file could not be opened, or not be read at the last look; none where it could.
+    // Why the file could not be opened, or not be read at the last poll; none where it could.
     [[nodiscard]] std::optional<SystemError> lastError() const { return m_lastError; }
 
     // Filters and styles: all lines, or, when `newLines` is not empty, just those, which the caller
-    // has already appended to `lines`. Over when it returns unless that takes long; then its result
-    // is published at its end, lines that are appended meanwhile join it, and any change of what is
-    // to be shown abandons it.
+    // has already appended to `lines`. Over when it returns unless that takes 50 ms of processor
+    // time; then its result is published at its end, lines that are appended meanwhile join it, and
+    // any change of what is to be shown abandons it.
     void recompute(const LogLines& newLines = LogLines());
 
     // Takes the wrap and size defaults over into wrapLines and fontSize. A size that is not above 0
@@ -135,8 +135,8 @@ private:
     std::unique_ptr<DisplayPass> m_pass;
     QTimer m_nextSlice;
     std::optional<QString> m_saidMeanwhile;
-    // Takes up a look that found more than is read at once.
-    QTimer m_nextLook;
+    // Takes up a poll that found more than is read at once.
+    QTimer m_nextPoll;
     Debouncer m_displayChanges;
     Debouncer m_defaultsChanges;
 };

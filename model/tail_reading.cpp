@@ -10,7 +10,7 @@ namespace quillon {
 
 namespace {
 
-// What a look leaves for the next one must be more than a line terminator, which has three bytes at
+// What a poll leaves for the next one must be more than a line terminator, which has three bytes at
 // most: all by itself it would be no line there.
 constexpr quint64 kLeastRestBytes = 4;
 
@@ -19,7 +19,7 @@ constexpr quint64 kLeastRestBytes = 4;
 Result<qint64> findLineEnd(ReadHandle& handle, qint64 position, quint64 grownBytes)
 {
     while (position <= ReadHandle::kMaximumReadBytes) {
-        const auto piece = handle.readUpTo(kLookBytes);
+        const auto piece = handle.readUpTo(kPollBytes);
         if (!piece) {
             return piece.error();
         }
@@ -29,7 +29,7 @@ Result<qint64> findLineEnd(ReadHandle& handle, qint64 position, quint64 grownByt
             return end;
         }
         position += piece.value().size();
-        if (piece.value().size() < kLookBytes) {
+        if (piece.value().size() < kPollBytes) {
             return position;
         }
     }
@@ -78,13 +78,13 @@ Result<std::optional<TailGrowth>> readTailGrowth(const QString& path, quint64 la
     if (const auto error = handle->seek(lastFileSize)) {
         return *error;
     }
-    auto bytes = handle->readUpTo(kLookBytes);
+    auto bytes = handle->readUpTo(kPollBytes);
     if (!bytes) {
         return bytes.error();
     }
     TailGrowth growth{.nextOffset = size.value(), .bytes = std::move(bytes.value())};
     const quint64 grownBytes = size.value() - lastFileSize;
-    if (growth.bytes.size() < kLookBytes || grownBytes <= quint64(kLookBytes)) {
+    if (growth.bytes.size() < kPollBytes || grownBytes <= quint64(kPollBytes)) {
         return std::optional(std::move(growth));
     }
     if (const auto error = endWithLine(growth.bytes, lastFileSize, grownBytes, *handle)) {

@@ -10,21 +10,21 @@
 
 namespace quillon {
 
-// What a look at a followed file found new.
+// What a poll of a followed file found new.
 struct TailGrowth {
-    // Where the next look starts: the file's size in bytes when this one began, at which bytes that
+    // Where the next poll starts: the file's size in bytes when this one began, at which bytes that
     // were written meanwhile may have been read already, or, where there is more, the end of the
     // bytes.
     quint64 nextOffset = 0;
     QByteArray bytes;
-    // Whether the file had more than a look takes at once. The bytes end where a line does, so that
-    // the looks that follow make the lines that one look at all of it would have made.
+    // Whether the file had more than a poll takes at once. The bytes end where a line does, so that
+    // the polls that follow make the lines that one poll of all of it would have made.
     bool hasMore = false;
 };
 
-// How much a look takes at once, in bytes: what is read, shown and painted before anybody feels
+// How much a poll takes at once, in bytes: what is read, shown and painted before anybody feels
 // that a key waits for it.
-inline constexpr qint64 kLookBytes = qint64{2} * 1024 * 1024;
+inline constexpr qint64 kPollBytes = qint64{2} * 1024 * 1024;
 
 // Reads what the file has past `lastFileSize` bytes. No growth where it is not longer, also when it
 // has become shorter: a truncated file shows nothing new until it outgrows its old size. The growth

@@ -46,7 +46,7 @@ QString firstCharacter(QByteArrayView bytes)
     return decoder.hasError() ? QString() : character;
 }
 
-// Calls `take` for each stretch of the path: with a text, or with an escaped byte.
+// Calls `take` for each span of the path: with a text, or with an escaped byte.
 template <typename TakeText, typename TakeByte>
 void walk(const QString& path, TakeText takeText, TakeByte takeByte)
 {

@@ -18,7 +18,7 @@ Result<quint64> fileSizeAt(const QString& path);
 // files (for the others see fileSizeAt).
 class ReadHandle {
 public:
-    // The most that one read gives. A file can grow by any amount between two looks (a sparse
+    // The most that one read gives. A file can grow by any amount between two polls (a sparse
     // hundred gigabytes at once, say); more than this in one piece fails with EFBIG instead of
     // taking the machine's memory.
     static constexpr qint64 kMaximumReadBytes = qint64{512} * 1024 * 1024;

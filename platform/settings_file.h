@@ -12,7 +12,7 @@
 
 namespace quillon {
 
-// A settings file on disk. Only a regular file of a sane size is read, without ever waiting for
+// A settings file on disk. Only a regular file of at most 256 KiB is read, without ever waiting for
 // it, and only such a file, or none, is replaced: whatever else lies there is not ours. A reader
 // sees the file as it was or as it is to be, nothing between.
 class SettingsFile {

@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-// A stretch of work on one thread, measured in the processor time that it uses: a machine that is
+// A span of work on one thread, measured in the processor time that it uses: a machine that is
 // busy with other things, or asleep, uses none of it.
 class TimeSlice {
 public:

@@ -25,9 +25,9 @@ constexpr qsizetype kPartLength = 65'536;
 
 } // namespace
 
-std::unique_ptr<RowLook> RowStyler::lookOf(const AttributedRow& row) const
+std::unique_ptr<RowStyle> RowStyler::styleOf(const AttributedRow& row) const
 {
-    return std::make_unique<SettledLook>(runsOf(row));
+    return std::make_unique<SettledStyle>(runsOf(row));
 }
 
 AttributedRow::AttributedRow(qint64 number, QString text, LogSeverity severity,
@@ -55,13 +55,13 @@ void AttributedRow::forEachRun(const std::function<void(const AttributeRun&)>& t
         }
         return;
     }
-    const std::unique_ptr<RowLook> look = this->look();
+    const std::unique_ptr<RowStyle> style = this->style();
     std::optional<AttributeRun> last; // which may go on in the next part
     for (qsizetype start = 0; start < length(); start += kPartLength) {
         const TextRange part{start, std::min(kPartLength, length() - start)};
-        while (!look->advance(part.end())) {
+        while (!style->advance(part.end())) {
         }
-        for (const AttributeRun& run : look->runsIn(part)) {
+        for (const AttributeRun& run : style->runsIn(part)) {
             if (last && last->attributes == run.attributes) {
                 last->length += run.length;
                 continue;

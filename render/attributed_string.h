@@ -3,7 +3,7 @@
 
 #include "model/records/log_severity.h"
 #include "platform/append_only_list.h"
-#include "render/row_look.h"
+#include "render/row_style.h"
 #include "render/text_attributes.h"
 
 #include <QString>
@@ -16,8 +16,8 @@ namespace quillon {
 
 class AttributedRow;
 
-// Gives the look of rows. Shared by the rows of a pass, and never changed once a row has it, so
-// that what a row looks like is settled when it is made, however late somebody asks.
+// Gives the style of rows. Shared by the rows of a pass, and never changed once a row has it, so
+// that the style of a row is settled when it is made, however late somebody asks.
 class RowStyler {
 public:
     virtual ~RowStyler() = default;
@@ -26,8 +26,8 @@ public:
     [[nodiscard]] virtual Color severityColor(LogSeverity severity) const = 0;
     // The runs of `row`, in order, covering it without gaps; adjacent runs differ.
     [[nodiscard]] virtual std::vector<AttributeRun> runsOf(const AttributedRow& row) const = 0;
-    // The same, to be asked for a part at a time. The look needs neither row nor styler to stay.
-    [[nodiscard]] virtual std::unique_ptr<RowLook> lookOf(const AttributedRow& row) const;
+    // The same, to be asked for a part at a time. The style needs neither row nor styler to stay.
+    [[nodiscard]] virtual std::unique_ptr<RowStyle> styleOf(const AttributedRow& row) const;
 };
 
 // One row of styled text: a line number, a tab, a line's text and a line feed. It shares the text
@@ -61,7 +61,7 @@ public:
     [[nodiscard]] std::vector<AttributeRun> runs() const { return m_styler->runsOf(*this); }
     // All runs one after the other, without having them all in memory.
     void forEachRun(const std::function<void(const AttributeRun&)>& take) const;
-    [[nodiscard]] std::unique_ptr<RowLook> look() const { return m_styler->lookOf(*this); }
+    [[nodiscard]] std::unique_ptr<RowStyle> style() const { return m_styler->styleOf(*this); }
 
 private:
     qint64 m_number;

@@ -31,8 +31,8 @@ struct HighlightPreference {
     HighlightRole role;
     // Empty for a colour that cannot be chosen.
     QLatin1StringView key;
-    // The text that is stored before the user has chosen, in the format of color_codec.h.
-    QLatin1StringView initial;
+    // The registered default, in the format of color_codec.h.
+    QLatin1StringView defaultText;
     // Stands in for a stored text that means no colour.
     Color fallback;
 

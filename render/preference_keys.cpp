@@ -11,7 +11,7 @@ UserDefaults::Table makeDefaultPreferences()
     UserDefaults::Table table;
     for (const HighlightPreference& preference : kHighlightPreferences) {
         if (preference.isStored()) {
-            table.emplace_back(preference.key, QString(preference.initial));
+            table.emplace_back(preference.key, QString(preference.defaultText));
         }
     }
     table.emplace_back(kWrapDefault, true);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "render/row_look.h"
+#include "render/row_style.h"
 
 #include <algorithm>
 
 namespace quillon {
 
-std::vector<AttributeRun> SettledLook::runsIn(const TextRange& part) const
+std::vector<AttributeRun> SettledStyle::runsIn(const TextRange& part) const
 {
     auto run = std::partition_point(m_runs.begin(), m_runs.end(), [&](const AttributeRun& each) {
         return each.end() <= part.start;

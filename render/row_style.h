@@ -9,23 +9,24 @@
 
 namespace quillon {
 
-// The look of one row, for those who want to see a part of it. A row can be as long as a whole log
-// and have a million matches of a search, which take seconds to find; so its look is worked out as
+// The style of one row, for those who want to see a part of it. A row can be as long as a whole log
+// and have a million matches of a search, which take seconds to find; so its style is worked out as
 // far as somebody asks, a bit at a time.
-class RowLook {
+class RowStyle {
 public:
-    virtual ~RowLook() = default;
-    // Works out some more, unless the runs that begin before `end` are known. Whether they are now.
+    virtual ~RowStyle() = default;
+    // Works out a span of the search more (see MatchingBudget), unless the runs that begin before
+    // `end` are known. Whether they are now.
     virtual bool advance(qsizetype end) = 0;
     // The runs of that part of the row, in order, covering it without gaps; adjacent runs differ.
     // Matches that are not known yet are missing.
     [[nodiscard]] virtual std::vector<AttributeRun> runsIn(const TextRange& part) const = 0;
 };
 
-// A look that is known from the beginning: the runs of a whole row.
-class SettledLook final : public RowLook {
+// A style that is known from the beginning: the runs of a whole row.
+class SettledStyle final : public RowStyle {
 public:
-    explicit SettledLook(std::vector<AttributeRun> runs) : m_runs(std::move(runs)) {}
+    explicit SettledStyle(std::vector<AttributeRun> runs) : m_runs(std::move(runs)) {}
 
     bool advance(qsizetype /*end*/) override { return true; }
     [[nodiscard]] std::vector<AttributeRun> runsIn(const TextRange& part) const override;

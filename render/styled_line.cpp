@@ -39,7 +39,7 @@ public:
         }
     }
 
-    // Applies the look of a match to many ranges at once, in order and without overlap. One walk
+    // Applies the style of a match to many ranges at once, in order and without overlap. One walk
     // over runs and ranges together: splitting for each would cost the square of their number.
     void mark(const std::vector<TextRange>& ranges)
     {
@@ -108,10 +108,10 @@ private:
 };
 
 // A row with the matches of a search.
-class MarkedLook final : public RowLook {
+class MarkedStyle final : public RowStyle {
 public:
-    MarkedLook(std::vector<AttributeRun> unmarked, std::shared_ptr<const SearchExpression> search,
-               const AttributedRow& row)
+    MarkedStyle(std::vector<AttributeRun> unmarked, std::shared_ptr<const SearchExpression> search,
+                const AttributedRow& row)
         : m_unmarked(std::move(unmarked)), m_search(std::move(search)),
           m_marks(*m_search, row.string(), TextRange{row.prefixLength(), row.text().size()})
     {
@@ -126,7 +126,7 @@ public:
     }
 
 private:
-    SettledLook m_unmarked;
+    SettledStyle m_unmarked;
     std::shared_ptr<const SearchExpression> m_search;
     RowMarks m_marks;
 };
@@ -144,18 +144,18 @@ std::vector<AttributeRun> LogRowStyler::runsOf(const AttributedRow& row) const
     if (!m_search) {
         return unmarkedRunsOf(row);
     }
-    MarkedLook look(unmarkedRunsOf(row), m_search, row);
-    while (!look.advance(row.length())) {
+    MarkedStyle style(unmarkedRunsOf(row), m_search, row);
+    while (!style.advance(row.length())) {
     }
-    return look.runsIn(TextRange{0, row.length()});
+    return style.runsIn(TextRange{0, row.length()});
 }
 
-std::unique_ptr<RowLook> LogRowStyler::lookOf(const AttributedRow& row) const
+std::unique_ptr<RowStyle> LogRowStyler::styleOf(const AttributedRow& row) const
 {
     if (!m_search) {
-        return std::make_unique<SettledLook>(unmarkedRunsOf(row));
+        return std::make_unique<SettledStyle>(unmarkedRunsOf(row));
     }
-    return std::make_unique<MarkedLook>(unmarkedRunsOf(row), m_search, row);
+    return std::make_unique<MarkedStyle>(unmarkedRunsOf(row), m_search, row);
 }
 
 std::vector<AttributeRun> LogRowStyler::unmarkedRunsOf(const AttributedRow& row) const

@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-// The look of log rows in one pass: what the pass has found in the settings, the text size and the
+// The style of log rows in one pass: what the pass has found in the settings, the text size and the
 // search, fixed when the pass begins.
 class LogRowStyler final : public RowStyler {
 public:
@@ -31,7 +31,7 @@ public:
     // dump call; text colour on a light selection colour for each match of the search, which is
     // looked for in the number too.
     [[nodiscard]] std::vector<AttributeRun> runsOf(const AttributedRow& row) const override;
-    [[nodiscard]] std::unique_ptr<RowLook> lookOf(const AttributedRow& row) const override;
+    [[nodiscard]] std::unique_ptr<RowStyle> styleOf(const AttributedRow& row) const override;
 
 private:
     [[nodiscard]] std::vector<AttributeRun> unmarkedRunsOf(const AttributedRow& row) const;

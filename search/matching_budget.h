@@ -10,8 +10,8 @@ namespace quillon {
 //
 // Steps are the engine's own: it counts one wherever it notes a place to come back to, and reports
 // in after each kStepsPerReport of them. Between two such notes it may read a text to its end, so
-// in a long text the pieces that it reads are counted too. A long text is searched in stretches of
-// places where a match may begin, between which the program can see to other things. A stretch is
+// in a long text the pieces that it reads are counted too. A long text is searched in spans of
+// places where a match may begin, between which the program can see to other things. A span is
 // over when it has used half of what one may, so that none takes long, and only a single place can
 // be too much for it.
 class MatchingBudget {
@@ -19,12 +19,12 @@ public:
     static constexpr int kStepsPerReport = 10'000;
     // Every text has as many.
     static constexpr int kFewestReports = 10;
-    // UTF-16 units up to which a text is short: its pieces are not counted, and it is one stretch.
+    // UTF-16 units up to which a text is short: its pieces are not counted, and it is one span.
     static constexpr qsizetype kLongestShortText = 4'096;
     // Units that make a piece.
     static constexpr qsizetype kPieceLength = 64;
-    // Places that make a stretch.
-    static constexpr qsizetype kStretchLength = 65'536;
+    // Places that make a span.
+    static constexpr qsizetype kSpanLength = 65'536;
 
     // For a text of so many UTF-16 units.
     static MatchingBudget forText(qsizetype length);
@@ -33,20 +33,19 @@ public:
     // For patterns of the program's own.
     static MatchingBudget unlimited();
 
-    // Another stretch begins.
-    void beginStretch();
+    // Another span begins.
+    void beginSpan();
     // The engine has taken another kStepsPerReport steps. False once there are none left.
     [[nodiscard]] bool takeReport();
     // The engine reads another piece. False once there are none left.
-    [[nodiscard]] bool takePiece() { return --m_stretch.pieces >= 0 && --m_whole.pieces >= 0; }
-    // Whether the stretch has cost so much that the next place is better left to another.
-    [[nodiscard]] bool isStretchOver() const
+    [[nodiscard]] bool takePiece() { return --m_span.pieces >= 0 && --m_whole.pieces >= 0; }
+    // Whether the span has cost so much that the next place is better left to another.
+    [[nodiscard]] bool isSpanOver() const
     {
-        return m_stretch.reports < m_perStretch.reports / 2 ||
-               m_stretch.pieces < m_perStretch.pieces / 2;
+        return m_span.reports < m_perSpan.reports / 2 || m_span.pieces < m_perSpan.pieces / 2;
     }
     // Whether anything was asked for in vain.
-    [[nodiscard]] bool isSpent() const { return m_whole.isSpent() || m_stretch.isSpent(); }
+    [[nodiscard]] bool isSpent() const { return m_whole.isSpent() || m_span.isSpent(); }
 
 private:
     struct Amount {
@@ -56,14 +55,14 @@ private:
         [[nodiscard]] bool isSpent() const { return reports <= 0 || pieces < 0; }
     };
 
-    MatchingBudget(Amount whole, Amount perStretch)
-        : m_whole(whole), m_perStretch(perStretch), m_stretch(perStretch)
+    MatchingBudget(Amount whole, Amount perSpan)
+        : m_whole(whole), m_perSpan(perSpan), m_span(perSpan)
     {
     }
 
     Amount m_whole;
-    Amount m_perStretch;
-    Amount m_stretch;
+    Amount m_perSpan;
+    Amount m_span;
 };
 
 } // namespace quillon

@@ -83,7 +83,7 @@ void RowMarks::markLiteral()
 
 void RowMarks::markMatches()
 {
-    const qsizetype end = m_point.start + MatchingBudget::kStretchLength;
+    const qsizetype end = m_point.start + MatchingBudget::kSpanLength;
     const RegularExpression* asked = nullptr;
     std::optional<TextSearch> search;
     do {
@@ -107,7 +107,7 @@ void RowMarks::markMatches()
             return;
         }
         add(search->match());
-    } while (m_point.start < end && !m_point.budget.isStretchOver() && !isLookBehindDue());
+    } while (m_point.start < end && !m_point.budget.isSpanOver() && !isLookBehindDue());
 }
 
 void RowMarks::endPhase(bool isDecided)

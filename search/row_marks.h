@@ -28,7 +28,7 @@ public:
     // `text` is where in the row the line's text stands. The search must outlive the object.
     RowMarks(const SearchExpression& search, QString row, TextRange text);
 
-    // Goes on looking, for a stretch of the search at most (see MatchingBudget), unless all marks
+    // Goes on looking, for a span of the search at most (see MatchingBudget), unless all marks
     // that begin before `end` are known. Whether they are now.
     bool advance(qsizetype end);
 

@@ -63,7 +63,7 @@ UBool TextSearch::attempt(const void* context, int64_t start)
     auto& search = *const_cast<TextSearch*>(static_cast<const TextSearch*>(context));
     search.m_point.start = start;
     const MatchingBudget& budget = search.m_point.budget;
-    return start < search.m_stretchEnd && !budget.isStretchOver() && !budget.isSpent();
+    return start < search.m_spanEnd && !budget.isSpanOver() && !budget.isSpent();
 }
 
 // The engine knows by itself where to go on behind a match. Where it was stopped it is told, and
@@ -88,10 +88,10 @@ bool TextSearch::find()
 
 TextSearch::Step TextSearch::next()
 {
-    // Matches that are found soon one after the other share a stretch.
-    if (!m_isGoingOn || m_point.budget.isStretchOver()) {
-        m_point.budget.beginStretch();
-        m_stretchEnd = m_point.start + MatchingBudget::kStretchLength;
+    // Matches that are found soon one after the other share a span.
+    if (!m_isGoingOn || m_point.budget.isSpanOver()) {
+        m_point.budget.beginSpan();
+        m_spanEnd = m_point.start + MatchingBudget::kSpanLength;
     }
     const bool isFound = find();
     if (m_point.budget.isSpent()) {

@@ -32,7 +32,7 @@ struct SearchPoint {
 // search at a time; it, the text's units and the point must outlive the search.
 class TextSearch {
 public:
-    // Unfinished: there is no match in this stretch of a long text; the next step goes on from
+    // Unfinished: there is no match in this span of a long text; the next step goes on from
     // there, with this search or with another one from the same point.
     enum class Step : std::uint8_t { Match, NoMatch, Undecided, Unfinished };
 
@@ -59,7 +59,7 @@ private:
     SearchPoint& m_point;
     std::optional<PiecewiseText> m_pieces;
     TextRange m_match;
-    qsizetype m_stretchEnd = 0;
+    qsizetype m_spanEnd = 0;
     // Whether the engine itself still knows where it is.
     bool m_isGoingOn = false;
     UErrorCode m_status = U_ZERO_ERROR;

@@ -133,7 +133,7 @@ int runApplication(int& argc, char** argv, const CommandLine& commandLine)
     QApplication application(argc, argv);
     FileHandover handover;
     if (session.handOver(request, handover)) {
-        return 0;
+        return kExitSuccess;
     }
     AppearanceFollower appearance(application);
     session.tellPreference(appearance);

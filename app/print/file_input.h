@@ -27,7 +27,7 @@ public:
     [[nodiscard]] std::optional<SystemError> print();
 
     // Prints the rows that are appended to it as the event loop runs, if the command line asks to
-    // follow, and calls `printed` after some were. A look at the file that fails is told on
+    // follow, and calls `printed` after some were. A poll that fails is told on
     // standard error once, however often it fails in the same way.
     void follow(std::function<void()> printed);
 

@@ -10,7 +10,7 @@ namespace quillon {
 
 class AttributedRow;
 
-// Whether a row's looks are written with it.
+// Whether a row's styles are written with it.
 enum class JsonRuns : std::uint8_t { Written, LeftOut };
 
 // Appends the text as a JSON string in UTF-8. What could drive a terminal is escaped.

@@ -11,7 +11,7 @@
 namespace quillon {
 
 // Where printed rows go: a file descriptor behind a large buffer. Rows are appended to buffer();
-// they are written by flush(), and by flushWhenFull() once there are many of them. After a write
+// they are written by flush(), and by flushWhenFull() once there are 192 KiB of them. After a write
 // that failed nothing is written any more, and the state tells why. The descriptor is not closed.
 class PrintOutput {
 public:

@@ -18,7 +18,7 @@ enum class ColorDepth : std::uint8_t { Ansi16, Indexed256, TrueColor };
 ColorDepth colorDepthOf(const QByteArray& colorTerm, const QByteArray& term);
 
 // The parameters of the terminal's "select graphic rendition" sequence (ECMA-48, 8.3.117) for a
-// run's look, without "ESC [" and "m"; empty for the terminal's plain text. Fixed colours lose
+// run's style, without "ESC [" and "m"; empty for the terminal's plain text. Fixed colours lose
 // their alpha. System colours become the terminal's own ones, which the user has set up to be
 // legible there, and a search match is shown in reverse video, which stands out on any background.
 QByteArray graphicRendition(const RunAttributes& attributes, ColorDepth depth);

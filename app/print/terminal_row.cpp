@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kMostLooks = 64;
+constexpr std::size_t kMostStyles = 64;
 constexpr QByteArrayView kToPlain("\x1B[0m");
 
 // A search that found its place in the lower-cased row may end between the halves of a character,
@@ -31,23 +31,24 @@ TerminalRowFormat::TerminalRowFormat(ColorDepth depth, ControlCharacters control
 {
 }
 
-const TerminalRowFormat::Look& TerminalRowFormat::lookOf(const RunAttributes& attributes)
+const TerminalRowFormat::TerminalStyle& TerminalRowFormat::styleOf(const RunAttributes& attributes)
 {
-    for (const Look& known : m_looks) {
+    for (const TerminalStyle& known : m_styles) {
         if (known.attributes == attributes) {
             return known;
         }
     }
     // Only settings that are changed again and again while a log is followed make so many.
-    if (m_looks.size() == kMostLooks) {
-        m_looks.clear();
+    if (m_styles.size() == kMostStyles) {
+        m_styles.clear();
     }
     const QByteArray parameters = graphicRendition(attributes, m_depth);
     if (parameters.isEmpty()) {
-        return m_looks.emplace_back(Look{attributes, parameters, {}, kToPlain.toByteArray()});
+        return m_styles.emplace_back(
+            TerminalStyle{attributes, parameters, {}, kToPlain.toByteArray()});
     }
-    return m_looks.emplace_back(
-        Look{attributes, parameters, "\x1B[" + parameters + 'm', "\x1B[0;" + parameters + 'm'});
+    return m_styles.emplace_back(TerminalStyle{attributes, parameters, "\x1B[" + parameters + 'm',
+                                               "\x1B[0;" + parameters + 'm'});
 }
 
 void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
@@ -58,7 +59,7 @@ void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
     *numberEnd = '\t';
     const QByteArrayView prefix(number.data(), numberEnd + 1);
     const QStringView text = row.text();
-    QByteArray parameters; // of the look that the terminal has
+    QByteArray parameters; // of the style that the terminal has
     qsizetype written = 0; // UTF-16 units of the text
     row.forEachRun([&](const AttributeRun& run) {
         const qsizetype textEnd =
@@ -67,10 +68,10 @@ void TerminalRowFormat::append(const AttributedRow& row, QByteArray& out)
         if (!hasPrefix && textEnd <= written) {
             return;
         }
-        const Look& look = lookOf(run.attributes);
-        if (look.parameters != parameters) {
-            out += parameters.isEmpty() ? look.fromPlain : look.fromOther;
-            parameters = look.parameters;
+        const TerminalStyle& style = styleOf(run.attributes);
+        if (style.parameters != parameters) {
+            out += parameters.isEmpty() ? style.fromPlain : style.fromOther;
+            parameters = style.parameters;
         }
         if (hasPrefix) {
             out += prefix.sliced(run.start, std::min(run.end(), prefix.size()) - run.start);

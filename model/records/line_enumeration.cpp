@@ -21,7 +21,7 @@ constexpr std::uint16_t kNextLine = 0x0085;
 constexpr std::uint16_t kSeparators = 0x2028;
 constexpr std::uint16_t kButLastBit = 0xFFFE;
 
-// Nearly every stretch has none, so all of it is looked at in any case.
+// Nearly every span has none, so all of it is looked at in any case.
 bool hasRareTerminator(QStringView text)
 {
     const char16_t* const units = text.utf16();

@@ -27,7 +27,7 @@ private:
     void findNextLineFeed();
 
     QStringView m_rest;
-    // The stretch up to the next line feed (or the end) is looked over once, however many lines the
+    // The span up to the next line feed (or the end) is looked over once, however many lines the
     // rarer terminators make of it.
     qsizetype m_lineFeed = -1;
     bool m_hasRareTerminator = false;

@@ -41,7 +41,7 @@ protected:
               u".*Fatal|(\\w+\\s*)+;", u"(warning", u"a"}) {
             cases.push_back({logLines(texts), query});
         }
-        // A line that is decided in stretches, with a match in the last.
+        // A line that is decided in spans, with a match in the last.
         const QString text = QStringLiteral("word/12 \"a\" ").repeated(6'000) + QStringLiteral("z");
         for (const char16_t* query : {u"(?>[^z]*)z", u"\\w+z", u".*12z|(.*)\" z|line \\d+"}) {
             cases.push_back({logLines({texts[0], text, texts[1]}), query});

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Every call by which the program reads goes wrong once, at the first to the last time that it is
-// made. What is shown is the whole log or the reason why not, and the next good look has it all.
+// made. What is shown is the whole log or the reason why not, and the next good poll has it all.
 #include "platform/settings_file.h"
 #include "platform/system_error.h"
 #include "tests/model/view_model_fixture.h"
@@ -80,7 +80,7 @@ TEST_P(Faults, AnOpenedLogIsWholeOrTheReasonIsShown)
     EXPECT_GT(calls, 0);
 }
 
-TEST_P(Faults, AFailedLookChangesNothingAndTheNextOneHasItAll)
+TEST_P(Faults, AFailedPollChangesNothingAndTheNextOneHasItAll)
 {
     const int calls = forEachCall([&](int nth) {
         open("x\n");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// More than a look takes at once: what is shown in the end is what one look would have shown.
+// More than a poll takes at once: what is shown in the end is what one poll would have shown.
 #include "model/records/line_builder.h"
 #include "model/tail_reading.h"
 #include "platform/system_error.h"
@@ -22,8 +22,8 @@ protected:
         open(bytes);
         model().pollTimer->stop();
     }
-    // Looks once, and lets the event loop take it up until it has got to the end of the file.
-    void lookToTheEnd(quint64 fileSize)
+    // Polls once, and lets the event loop take it up until it has got to the end of the file.
+    void pollToTheEnd(quint64 fileSize)
     {
         model().pollTail();
         ASSERT_TRUE(spinUntil([&] { return model().lastFileSize >= fileSize; }));
@@ -40,7 +40,7 @@ protected:
     }
 };
 
-// Lines of all lengths and terminators, many empty, cut anywhere by the looks.
+// Lines of all lengths and terminators, many empty, cut anywhere by the polls.
 QByteArray randomGrowth(RandomText& random, qsizetype size)
 {
     static const QByteArrayList pieces{"a",
@@ -60,13 +60,13 @@ QByteArray randomGrowth(RandomText& random, qsizetype size)
     return bytes;
 }
 
-TEST_F(LargeGrowth, IsShownAsOneLookWouldHaveShownIt)
+TEST_F(LargeGrowth, IsShownAsOnePollWouldHaveShownIt)
 {
     RandomText random(3);
     follow("x\n");
-    const QByteArray growth = randomGrowth(random, 3 * kLookBytes + 12345);
+    const QByteArray growth = randomGrowth(random, 3 * kPollBytes + 12345);
     folder().append(kFile, growth);
-    lookToTheEnd(2 + quint64(growth.size()));
+    pollToTheEnd(2 + quint64(growth.size()));
     EXPECT_EQ(texts().mid(1), linesOf(growth));
     EXPECT_EQ(number(model().lines.get().size() - 1), qint64(linesOf(growth).size()) + 1);
 }
@@ -83,7 +83,7 @@ TEST_F(LargeGrowth, IsTakenUpInTheTurnsOfTheEventLoop)
     EXPECT_TRUE(status().startsWith(QStringLiteral("Lignes: ") + QLocale().toString(100'001)));
 }
 
-TEST_F(LargeGrowth, IsLookedAtOnceATurnAlsoWhenATickComesInBetween)
+TEST_F(LargeGrowth, IsPolledOnceATurnAlsoWhenATickComesInBetween)
 {
     follow("x\n");
     const QByteArray growth = QByteArray(QByteArray(99, 'l') + '\n').repeated(100'000);
@@ -121,31 +121,31 @@ TEST_F(LargeGrowth, IsNotTakenUpForAnotherFile)
 TEST_F(LargeGrowth, AnEmptyLineAtTheVeryEndIsShown)
 {
     follow("x\n");
-    const QByteArray growth = QByteArray(kLookBytes - 1, 'l') + "\n\n";
+    const QByteArray growth = QByteArray(kPollBytes - 1, 'l') + "\n\n";
     folder().append(kFile, growth);
-    lookToTheEnd(2 + quint64(growth.size()));
+    pollToTheEnd(2 + quint64(growth.size()));
     EXPECT_EQ(texts().size(), 3);
 }
 
-TEST_F(LargeGrowth, ALineLongerThanALookIsOneLine)
+TEST_F(LargeGrowth, ALineLongerThanAPollIsOneLine)
 {
     follow("x\n");
-    const QByteArray growth = QByteArray(2 * kLookBytes + 77, 'l') + "\nend";
+    const QByteArray growth = QByteArray(2 * kPollBytes + 77, 'l') + "\nend";
     folder().append(kFile, growth);
-    lookToTheEnd(2 + quint64(growth.size()));
+    pollToTheEnd(2 + quint64(growth.size()));
     ASSERT_EQ(texts().size(), 3);
-    EXPECT_EQ(texts()[1].size(), 2 * kLookBytes + 77);
+    EXPECT_EQ(texts()[1].size(), 2 * kPollBytes + 77);
     EXPECT_EQ(texts()[2], QStringLiteral("end"));
 }
 
 TEST_F(LargeGrowth, WithoutALineEndIsReadToTheEnd)
 {
     follow("x\n");
-    const QByteArray growth(kLookBytes + 2, 'l');
+    const QByteArray growth(kPollBytes + 2, 'l');
     folder().append(kFile, growth);
-    lookToTheEnd(2 + quint64(growth.size()));
+    pollToTheEnd(2 + quint64(growth.size()));
     ASSERT_EQ(texts().size(), 2);
-    EXPECT_EQ(texts()[1].size(), kLookBytes + 2);
+    EXPECT_EQ(texts()[1].size(), kPollBytes + 2);
 }
 
 TEST_F(LargeGrowth, ALineThatIsTooLongIsReportedAndSkipsNothing)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A log that another process writes to as fast as it can, while it is looked at as often as
+// A log that another process writes to as fast as it can, while it is polled as often as
 // possible. The whole load, with the window shown, is bench/load_probe.cpp.
 #include "tests/model/view_model_fixture.h"
 #include "tests/support/log_writer.h"
@@ -36,12 +36,12 @@ protected:
 
 TEST_F(Load, EveryByteThatAnotherProcessWritesIsShown)
 {
-    // So often that it falls between any two steps of a look.
+    // So often that it falls between any two steps of a poll.
     constexpr std::uint32_t kLongestCut = 400;
     LogWriter writer(folder().path(kFile), kBytes, std::chrono::milliseconds(300), kLongestCut);
     ASSERT_TRUE(spinUntil([&] {
         const bool isAllThere = writer.isDone();
-        for (int look = 0; look < 50; ++look) {
+        for (int poll = 0; poll < 50; ++poll) {
             model().pollTail();
         }
         return isAllThere;

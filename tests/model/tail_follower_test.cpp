@@ -13,7 +13,7 @@ namespace {
 const QString kA = QStringLiteral("A");
 const QString kB = QStringLiteral("B");
 
-// Looks are made by hand, so that nothing depends on time; the tests of the timer say so.
+// Polls are made by hand, so that nothing depends on time; the tests of the timer say so.
 class TailFollower : public ViewModelTest {
 protected:
     TailFollower() { model().followTail.set(true); }
@@ -23,7 +23,7 @@ protected:
         open(bytes);
         model().pollTimer->stop();
     }
-    void appendAndLook(const QByteArray& bytes)
+    void appendAndPoll(const QByteArray& bytes)
     {
         folder().append(kFile, bytes);
         model().pollTail();
@@ -56,7 +56,7 @@ TEST_F(TailFollower, TheTimerRunsTwiceASecond)
 TEST_F(TailFollower, NewLinesExtendTheOutputAndTheStatus)
 {
     follow("x\n");
-    appendAndLook("A\nB\n");
+    appendAndPoll("A\nB\n");
     EXPECT_EQ(output(), QStringLiteral("1\tx\n2\tA\n3\tB\n"));
     EXPECT_EQ(status(), QStringLiteral("Lignes: 3"));
     EXPECT_EQ(model().lastFileSize, 6U);
@@ -66,7 +66,7 @@ TEST_F(TailFollower, FormerRowsAreSharedNotMadeAnew)
 {
     follow("x\n");
     const AttributedString former = model().attributedOutput.get();
-    appendAndLook("A\n");
+    appendAndPoll("A\n");
     EXPECT_TRUE(model().attributedOutput.get().isExtensionOf(former));
 }
 
@@ -75,15 +75,15 @@ TEST_F(TailFollower, LinesAreAppendedInOneChange)
     follow("x\n");
     int changes = 0;
     const Subscription subscription = model().lines.observeWillChange([&changes] { ++changes; });
-    appendAndLook("A\nB\n");
+    appendAndPoll("A\nB\n");
     EXPECT_EQ(changes, 1);
 }
 
 TEST_F(TailFollower, ALineWrittenInTwoHalvesMakesTwoRecords)
 {
     follow("x\n");
-    appendAndLook("partial");
-    appendAndLook("rest\n");
+    appendAndPoll("partial");
+    appendAndPoll("rest\n");
     EXPECT_EQ(texts().mid(1), (QStringList{QStringLiteral("partial"), QStringLiteral("rest")}));
     EXPECT_EQ(number(1), 2);
     EXPECT_EQ(number(2), 3);
@@ -102,7 +102,7 @@ TEST_F(TailFollower, LessThanBeforeAfterATruncationIsNotShown)
 {
     follow("un\ndeux\n");
     folder().resize(kFile, 0);
-    appendAndLook("A\n");
+    appendAndPoll("A\n");
     EXPECT_EQ(texts().size(), 2);
     EXPECT_EQ(status(), QStringLiteral("Lignes: 2"));
 }
@@ -111,11 +111,11 @@ TEST_F(TailFollower, ATruncatedFileIsReadOnAtTheFormerOffset)
 {
     follow("un\ndeux\n");
     folder().resize(kFile, 0);
-    appendAndLook("abcdefg\nA\n");
+    appendAndPoll("abcdefg\nA\n");
     EXPECT_EQ(texts().mid(2), QStringList{kA});
 }
 
-TEST_F(TailFollower, ADeletedFileIsReportedAtEveryLook)
+TEST_F(TailFollower, ADeletedFileIsReportedAtEveryPoll)
 {
     follow("x\n");
     ASSERT_TRUE(QFile::remove(folder().path(kFile)));
@@ -127,7 +127,7 @@ TEST_F(TailFollower, ADeletedFileIsReportedAtEveryLook)
     EXPECT_EQ(texts(), QStringList{QStringLiteral("x")});
 }
 
-TEST_F(TailFollower, AnErrorLastsUntilALookSucceeds)
+TEST_F(TailFollower, AnErrorLastsUntilAPollSucceeds)
 {
     follow("x\n");
     EXPECT_EQ(model().lastError(), std::nullopt);
@@ -140,20 +140,20 @@ TEST_F(TailFollower, AnErrorLastsUntilALookSucceeds)
     EXPECT_EQ(model().lastError(), std::nullopt);
 }
 
-TEST_F(TailFollower, EachLookIsToldOnceItIsOver)
+TEST_F(TailFollower, EachPollIsToldOnceItIsOver)
 {
     follow("x\n");
     QStringList statuses;
     const Subscription polls = model().observePolls([&] { statuses.append(status()); });
     model().pollTail();
-    appendAndLook("A\n");
+    appendAndPoll("A\n");
     ASSERT_TRUE(QFile::remove(folder().path(kFile)));
     model().pollTail();
     const QString one = QStringLiteral("Lignes: 1");
     EXPECT_EQ(statuses, (QStringList{one, QStringLiteral("Lignes: 2"), tailError(ENOENT)}));
 }
 
-TEST_F(TailFollower, NoLookIsToldWithFollowOff)
+TEST_F(TailFollower, NoPollIsToldWithFollowOff)
 {
     follow("x\n");
     int polls = 0;
@@ -186,18 +186,18 @@ TEST_F(TailFollower, WithFollowOffNothingIsRead)
 {
     follow("x\n");
     model().followTail.set(false);
-    appendAndLook("A\n");
+    appendAndPoll("A\n");
     EXPECT_EQ(texts().size(), 1);
     EXPECT_EQ(model().lastFileSize, 2U);
     EXPECT_NE(model().pollTimer, nullptr);
 }
 
-TEST_F(TailFollower, FollowTurnedOnAgainReadsEverythingInOneLook)
+TEST_F(TailFollower, FollowTurnedOnAgainReadsEverythingInOnePoll)
 {
     follow("x\n");
     model().followTail.set(false);
-    appendAndLook("A\n");
-    appendAndLook("B\n");
+    appendAndPoll("A\n");
+    appendAndPoll("B\n");
     model().followTail.set(true);
     model().pollTail();
     EXPECT_EQ(texts().mid(1), (QStringList{kA, kB}));
@@ -216,10 +216,10 @@ TEST_F(TailFollower, FollowTurnedOnAgainIsNoticedByTheTimer)
 TEST_F(TailFollower, ALineTerminatorAloneAddsNoRecordButIsBehindUs)
 {
     follow("x");
-    appendAndLook("\n");
+    appendAndPoll("\n");
     EXPECT_EQ(texts().size(), 1);
     EXPECT_EQ(model().lastFileSize, 2U);
-    appendAndLook("A\n");
+    appendAndPoll("A\n");
     EXPECT_EQ(texts().mid(1), QStringList{kA});
 }
 
@@ -239,17 +239,17 @@ TEST_F(TailFollower, AFileOpenedWithFollowOffIsNotFollowedLater)
     EXPECT_EQ(model().pollTimer, nullptr);
 }
 
-TEST_F(TailFollower, WithoutAFileALookDoesNothing)
+TEST_F(TailFollower, WithoutAFileAPollDoesNothing)
 {
     model().pollTail();
     EXPECT_EQ(status(), QStringLiteral("Aucun fichier ouvert"));
 }
 
-TEST_F(TailFollower, WithoutAHandleALookDoesNothing)
+TEST_F(TailFollower, WithoutAHandleAPollDoesNothing)
 {
     follow("x\n");
     model().readHandle.reset();
-    appendAndLook("A\n");
+    appendAndPoll("A\n");
     EXPECT_EQ(texts().size(), 1);
     EXPECT_EQ(model().lastFileSize, 2U);
 }
@@ -257,7 +257,7 @@ TEST_F(TailFollower, WithoutAHandleALookDoesNothing)
 TEST_F(TailFollower, AppendedToAnEmptyFileLinesAreNumberedFromOne)
 {
     follow(QByteArray());
-    appendAndLook("A\n");
+    appendAndPoll("A\n");
     EXPECT_EQ(output(), QStringLiteral("1\tA\n"));
 }
 
@@ -265,7 +265,7 @@ TEST_F(TailFollower, HiddenNewLinesStillCount)
 {
     model().showWarning.set(false);
     follow("x\n");
-    appendAndLook("PHP Warning: y\n");
+    appendAndPoll("PHP Warning: y\n");
     EXPECT_EQ(output(), QStringLiteral("1\tx\n"));
     EXPECT_EQ(status(), QStringLiteral("Lignes: 2"));
 }
@@ -273,8 +273,8 @@ TEST_F(TailFollower, HiddenNewLinesStillCount)
 TEST_F(TailFollower, ACharacterWrittenInTwoHalvesIsReplacedTwice)
 {
     follow("x\n");
-    appendAndLook("a\xC3");
-    appendAndLook("\xA9\n");
+    appendAndPoll("a\xC3");
+    appendAndPoll("\xA9\n");
     EXPECT_EQ(texts().mid(1), (QStringList{QStringLiteral("a\uFFFD"), QStringLiteral("\uFFFD")}));
 }
 
@@ -303,7 +303,7 @@ TEST_F(TailFollower, StartingTwiceLeavesOneTimer)
     EXPECT_TRUE(spinUntil([&first] { return first.isNull(); }));
 }
 
-TEST_F(TailFollower, MayBeStoppedByWhatALookLeadsTo)
+TEST_F(TailFollower, MayBeStoppedByWhatAPollLeadsTo)
 {
     open("x\n");
     folder().append(kFile, "A\n");

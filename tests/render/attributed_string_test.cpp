@@ -61,7 +61,7 @@ TEST(AttributedRow, CountsLineFeedsInsideItsText)
     EXPECT_EQ(row(1, QStringLiteral("\na\nb\r\nc")).lineFeedCount(), 3);
 }
 
-TEST(AttributedRow, GivesTheLookOfItsStyler)
+TEST(AttributedRow, GivesTheStyleOfItsStyler)
 {
     EXPECT_EQ(row(1, QStringLiteral("text")).baseAttributes().fontSize, 16.5);
     EXPECT_EQ(row(1, QStringLiteral("text")).runs().front().length, 7);

@@ -45,7 +45,7 @@ public:
         }
     }
 
-    // One run per stretch of equal units.
+    // One run per span of equal units.
     [[nodiscard]] std::vector<AttributeRun> runs() const
     {
         std::vector<AttributeRun> runs;
@@ -189,17 +189,17 @@ TEST(StyledLineProperty, AgreesWithAPlainPainterOnGenuineLogs)
     }
 }
 
-// Checks parts of a row's look, asked for in any order, against all of its runs.
+// Checks parts of a row's style, asked for in any order, against all of its runs.
 void expectPartsOfTheWhole(const AttributedRow& row, RandomText& random)
 {
     const std::vector<AttributeRun> whole = row.runs();
-    const auto look = row.look();
+    const auto style = row.style();
     for (int i = 0; i < 5; ++i) {
         const auto start = qsizetype(random.below(quint32(row.length())));
         const TextRange part{start, 1 + qsizetype(random.below(quint32(row.length() - start)))};
-        while (!look->advance(part.end())) {
+        while (!style->advance(part.end())) {
         }
-        ASSERT_EQ(look->runsIn(part), SettledLook(whole).runsIn(part))
+        ASSERT_EQ(style->runsIn(part), SettledStyle(whole).runsIn(part))
             << qPrintable(row.text()) << " from " << part.start << " to " << part.end();
     }
     std::vector<AttributeRun> oneByOne;

@@ -162,10 +162,10 @@ TEST(RegularExpressionBudget, DoesNotLimitTheProgramsOwnPatterns)
     EXPECT_EQ(own->allMatches(costly), (std::vector<TextRange>{{0, 1}, {19, 1}}));
 }
 
-// Texts that are searched in pieces and stretches.
+// Texts that are searched in pieces and spans.
 class LongText : public testing::Test {
 protected:
-    // Places at and around the borders of pieces and stretches, and others.
+    // Places at and around the borders of pieces and spans, and others.
     static std::vector<qsizetype> places()
     {
         std::vector<qsizetype> places{0, 1, 4'000, 100'001, 199'990};

@@ -135,7 +135,7 @@ TEST(RowMarks, OfAWordAreKnownEverywhereAtOnce)
 
 TEST(RowMarks, AreLookedForInStepsThatEachTakeLittle)
 {
-    // Each place reads a stretch's worth of the row, and no two find the same.
+    // Each place reads a span's worth of the row, and no two find the same.
     const auto made = search(u"b(?>[^q]*)c|[a]");
     const QString row(300'000, u'a');
     RowMarks marks(*made, row, TextRange{0, row.size()});

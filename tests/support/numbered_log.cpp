@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-// A look reads so much at once; it cannot have read more than that too early.
+// A poll reads so much at once; it cannot have read more than that too early.
 constexpr qsizetype kMostShownTwice = qsizetype{8} * 1024 * 1024;
 constexpr QByteArrayView kReplacement("\xEF\xBF\xBD");
 

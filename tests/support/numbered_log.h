@@ -17,7 +17,7 @@ QByteArray numberedLog(qsizetype bytes, qint64 first = 1);
 struct ByteAccount {
     // The bytes at the front that rows show, line ends included: all of them when nothing is lost.
     qsizetype shown = 0;
-    // Bytes that rows show once more: they were written while a look at the file was reading.
+    // Bytes that rows show once more: they were written while a poll was reading.
     qsizetype shownTwice = 0;
 };
 

@@ -10,8 +10,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Long enough for three looks at the file.
-constexpr auto kSeveralLooks = 1600ms;
+// Long enough for three polls.
+constexpr auto kSeveralPolls = 1600ms;
 
 const QString kFollow = QStringLiteral("--follow");
 
@@ -92,7 +92,7 @@ TEST_F(Following, ClosingTheMainWindowStopsReadingAndLeavesTheFollowToggleOn)
     closeByWindowManager(kLogTitle);
     awaitWindows({kPreferencesTitle});
     writeFromOutside(QStringLiteral("b"));
-    spinFor(kSeveralLooks);
+    spinFor(kSeveralPolls);
 
     QuillonProcess second({}, desktop().variables());
     EXPECT_EQ(second.run(), 0);

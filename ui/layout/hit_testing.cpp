@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/layout/log_text_hit_test.h"
+#include "ui/layout/hit_testing.h"
 
 #include "ui/layout/text_geometry.h"
 

@@ -226,18 +226,18 @@ LogTextLayout::PartRuns LogTextLayout::runsIn(qsizetype row, const TextRange& pa
         return {cached.runs, true};
     }
     const AttributedRow& attributed = m_text.rows()[row];
-    if (!cached.look) {
-        cached.look = attributed.look();
+    if (!cached.style) {
+        cached.style = attributed.style();
     }
     const qsizetype start = part.start / kPartLength * kPartLength;
     const qsizetype end =
         std::min((part.end() / kPartLength + 1) * kPartLength, attributed.length());
-    cached.isComplete = cached.look->advance(end);
+    cached.isComplete = cached.style->advance(end);
     while (!cached.isComplete && !isEnough()) {
-        cached.isComplete = cached.look->advance(end);
+        cached.isComplete = cached.style->advance(end);
     }
     cached.part = TextRange{start, end - start};
-    cached.runs = cached.look->runsIn(cached.part);
+    cached.runs = cached.style->runsIn(cached.part);
     return {cached.runs, cached.isComplete};
 }
 

@@ -59,7 +59,7 @@ public:
     // The row that a visual line belongs to, 0 ≤ line < lineCount() − 1.
     [[nodiscard]] VisualLine visualLine(qint64 line) const;
 
-    // A row in detail; kept for a while. The reference holds until 255 other rows have been asked
+    // A row in detail. The reference holds until 255 other rows have been asked
     // for, or layOut() is called.
     [[nodiscard]] const RowLayout& rowLayout(qsizetype row) const;
 
@@ -69,7 +69,8 @@ public:
         // Whether the search had been carried so far when it was enough.
         bool isComplete;
     };
-    // Works them out until `isEnough` says so; it is asked where that takes long.
+    // Works them out until `isEnough` says so; it is asked after each span of a
+    // search (see MatchingBudget).
     [[nodiscard]] PartRuns runsIn(qsizetype row, const TextRange& part,
                                   const std::function<bool()>& isEnough) const;
 
@@ -90,7 +91,7 @@ private:
         qsizetype row;
         RowLayout layout;
         // What has been asked for of its style.
-        std::unique_ptr<RowLook> look;
+        std::unique_ptr<RowStyle> style;
         TextRange part;
         std::vector<AttributeRun> runs;
         bool isComplete = false;

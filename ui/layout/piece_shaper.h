@@ -34,8 +34,8 @@ struct ShapedMeasure {
     Fixed oneLine = 0;
 };
 
-// Makes the text layouts of pieces of rows, for one font and one width, and keeps those last used:
-// drawing and hit-testing ask for the same ones line by line.
+// Makes the text layouts of pieces of rows, for one font and one width, and keeps the 128 last
+// used: drawing and hit-testing ask for the same ones line by line.
 class PieceShaper {
 public:
     // `metrics` must outlive the shaper; `lineWidth` as for RowLayouter.

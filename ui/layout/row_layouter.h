@@ -14,7 +14,7 @@ class RowPlaces;
 // Lays out single rows, for one font and one width. Rows without unusual characters are laid out by
 // arithmetic, the others by QTextLayout, to the same lines; the row's number is set by arithmetic
 // in any case, since beside some scripts a text layout takes its digits from a font that has none.
-// Of a very long row with unusual characters, each piece of some thousand units is laid out for
+// Of a very long row with unusual characters, each piece of 4,096 units is laid out for
 // itself and begins a line.
 class RowLayouter {
 public:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/log_text/caret_movement.h"
 
-#include "ui/layout/log_text_hit_test.h"
+#include "ui/layout/hit_testing.h"
 #include "ui/log_text/log_text_selection.h"
 #include "ui/log_text/word_movement.h"
 

@@ -3,7 +3,7 @@
 
 #include "ui/layout/control_letters.h"
 #include "ui/layout/displayed_text.h"
-#include "ui/layout/log_text_hit_test.h"
+#include "ui/layout/hit_testing.h"
 #include "ui/log_text/log_text_selection.h"
 
 #include <QPainter>

@@ -34,8 +34,9 @@ public:
     LogTextPainter(const LogTextPainter&) = delete;
     LogTextPainter& operator=(const LogTextPainter&) = delete;
 
-    // Draws what lies in `clip` (in the painter's coordinates). False where it takes longer to find
-    // all matches of the search there: then some are not marked, and the next painting goes on.
+    // Draws what lies in `clip` (in the painter's coordinates). False where it takes more than 20
+    // ms to find all matches of the search there: then some are not marked, and the next painting
+    // goes on.
     bool paint(const QRectF& clip, const LogTextSelection& selection);
 
 private:

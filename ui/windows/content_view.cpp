@@ -135,11 +135,8 @@ void ContentView::presentOpenPanel()
 
 void ContentView::showPending()
 {
-    // What changed in the view model is first handed to the log's view.
-    for (QObject* const receiver :
-         {static_cast<QObject*>(this), static_cast<QObject*>(m_logView)}) {
-        QCoreApplication::sendPostedEvents(receiver, QEvent::MetaCall);
-    }
+    // The log's view takes in what it was given in the event loop's next turn.
+    QCoreApplication::sendPostedEvents(m_logView, QEvent::MetaCall);
 }
 
 void ContentView::focusSearchField()

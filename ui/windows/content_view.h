@@ -22,7 +22,7 @@ class ToolbarRow;
 // The content of the main window: the toolbar above the log, with the status text over the log's
 // lower left corner. It holds no log state: controls are bound to the view model's fields, and the
 // log is what the view model publishes. While it is shown it answers the open command; when it goes
-// away it ends the looking for appended lines, and leaves following as it was set. The view model
+// away it ends the polling for appended lines, and leaves following as it was set. The view model
 // and the notification centre must outlive it.
 class ContentView : public QWidget {
     Q_OBJECT

@@ -37,7 +37,7 @@ private:
 // The status text and, once there is one, the open file's path, over whatever is below. The path
 // gives way first, from its head, so that the file name stays in sight. The mouse goes through to
 // what is below. To screen readers it is a status bar, named after the status once that has stayed
-// the same for a moment, so that they tell of it when they have said what else there is to say;
+// the same for 400 ms, so that they tell of it when they have said what else there is to say;
 // while a search goes on it is named after that. The view model must outlive it.
 class StatusOverlay : public QWidget {
     Q_OBJECT

@@ -30,7 +30,7 @@ protected:
         return window.menuBar()->actions().at(menu)->menu()->actions();
     }
 
-    // An item's texts in order, a rule as "—".
+    // An item's texts in order, a separator as "—".
     [[nodiscard]] QStringList texts(int menu) const
     {
         QStringList result;

@@ -18,8 +18,8 @@ namespace quillon {
 
 namespace {
 
-// Longer than two looks at the file and the model's first own pass together.
-constexpr auto kSeveralLooks = std::chrono::milliseconds(1300);
+// Longer than two polls and the model's first own pass together.
+constexpr auto kSeveralPolls = std::chrono::milliseconds(1300);
 
 class PrintFollow : public testing::Test {
 protected:
@@ -60,7 +60,7 @@ TEST_F(PrintFollow, AnEmptyLogIsFollowedFromItsFirstRow)
     m_folder.write(kLog, QByteArray());
     QuillonProcess quillon(arguments());
     quillon.start();
-    spinFor(kSeveralLooks);
+    spinFor(kSeveralPolls);
     m_folder.append(kLog, "a\nb\n");
     EXPECT_TRUE(spinUntil([&] { return quillon.output() == "1\ta\n2\tb\n"; }));
 }
@@ -70,7 +70,7 @@ TEST_F(PrintFollow, AppendedRowsAreFiltered)
     m_folder.write(kLog, "a\n");
     QuillonProcess quillon(arguments({QStringLiteral("--query=b")}));
     quillon.start();
-    spinFor(kSeveralLooks);
+    spinFor(kSeveralPolls);
     m_folder.append(kLog, "b1\nc\nb2\n");
     EXPECT_TRUE(spinUntil([&] { return quillon.output() == "2\tb1\n4\tb2\n"; }));
 }
@@ -83,7 +83,7 @@ TEST_F(PrintFollow, ChangedSettingsColourLaterRowsAndRepeatNone)
     const QByteArray first("\x1B[90m1\x1B[0;38;2;10;132;255m\tinfo a\x1B[0m\n");
     follow(quillon, first);
     quillon.writeSettings("[General]\nprefs.color.info=#010203\n");
-    spinFor(kSeveralLooks);
+    spinFor(kSeveralPolls);
     EXPECT_EQ(quillon.output(), first);
     m_folder.append(kLog, "info b\n");
     const QByteArray second("\x1B[90m2\x1B[0;38;2;1;2;3m\tinfo b\x1B[0m\n");
@@ -100,7 +100,7 @@ TEST_F(PrintFollow, AVanishedFileIsReportedOnceAndFollowedAgainWhenItIsBack)
         "quillon: " + m_folder.path(kLog).toLocal8Bit() + ": " + std::strerror(ENOENT) + '\n';
     ASSERT_TRUE(QFile::rename(m_folder.path(kLog), away));
     EXPECT_TRUE(spinUntil([&] { return quillon.errors() == complaint; }));
-    spinFor(kSeveralLooks);
+    spinFor(kSeveralPolls);
     EXPECT_EQ(quillon.errors(), complaint);
     ASSERT_TRUE(QFile::rename(away, m_folder.path(kLog)));
     m_folder.append(kLog, "b\n");

@@ -44,7 +44,7 @@ TEST_F(PrintHabits, OnlyWhatComes)
     m_folder.write(kFirst, "a\nb\n");
     QuillonProcess quillon({QStringLiteral("-pfn0"), m_folder.path(kFirst)});
     quillon.start();
-    // Whatever moment it begins to look at the file at, only a line written after that is printed.
+    // Whatever moment it begins to poll the file at, only a line written after that is printed.
     EXPECT_TRUE(spinUntil([&] {
         m_folder.append(kFirst, "c\n");
         return quillon.output().contains("\tc\n");

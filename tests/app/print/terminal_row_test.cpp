@@ -28,13 +28,13 @@ QByteArray written(TerminalRowFormat& format, const AttributedRow& row)
     return out;
 }
 
-// Character by character, with an escape sequence wherever the look becomes another one.
+// Character by character, with an escape sequence wherever the style becomes another one.
 QByteArray writtenPlainly(const AttributedRow& row, ColorDepth depth)
 {
     const QList<uint> characters = row.string().toUcs4();
     const std::vector<AttributeRun> runs = row.runs();
     QByteArray out;
-    QByteArray look;
+    QByteArray style;
     qsizetype at = 0;
     for (const uint character : characters) {
         const auto run =
@@ -43,11 +43,11 @@ QByteArray writtenPlainly(const AttributedRow& row, ColorDepth depth)
         const QByteArray wanted = character == u'\n' && at == row.length() - 1
                                       ? QByteArray()
                                       : graphicRendition(run->attributes, depth);
-        if (wanted != look) {
-            out += wanted.isEmpty() ? QByteArray("\x1B[0m")
-                   : look.isEmpty() ? "\x1B[" + wanted + 'm'
-                                    : "\x1B[0;" + wanted + 'm';
-            look = wanted;
+        if (wanted != style) {
+            out += wanted.isEmpty()  ? QByteArray("\x1B[0m")
+                   : style.isEmpty() ? "\x1B[" + wanted + 'm'
+                                     : "\x1B[0;" + wanted + 'm';
+            style = wanted;
         }
         appendText(QString::fromUcs4(reinterpret_cast<const char32_t*>(&character), 1),
                    ControlCharacters::AsPictures, out);
@@ -97,7 +97,7 @@ TEST(TerminalRowProperty, SaysWhatAPlainWriterSays)
          {ColorDepth::Ansi16, ColorDepth::Indexed256, ColorDepth::TrueColor}) {
         TerminalRowFormat format(depth, ControlCharacters::AsPictures, RowNumber::Shown);
         for (int i = 0; i < 5'000 && !testing::Test::HasFailure(); ++i) {
-            // More looks than are kept, in the end.
+            // More styles than are kept, in the end.
             HighlightColors colors = distinctColors();
             colors.ofRole[std::size_t(HighlightRole::Date)] =
                 Color::rgb(0.01 * random.below(100), 0, 0);

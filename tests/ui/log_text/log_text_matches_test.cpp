@@ -11,7 +11,7 @@
 namespace quillon {
 namespace {
 
-// What a test and the looks of a text have in common.
+// What a test and the styles of a text have in common.
 struct Search {
     bool isOver = false;
     // The parts that were asked for.
@@ -19,9 +19,9 @@ struct Search {
 };
 
 // Rows all red once the search is over, and plain until then.
-class SlowLook final : public RowLook {
+class SlowStyle final : public RowStyle {
 public:
-    explicit SlowLook(std::shared_ptr<Search> search) : m_search(std::move(search)) {}
+    explicit SlowStyle(std::shared_ptr<Search> search) : m_search(std::move(search)) {}
 
     bool advance(qsizetype /*end*/) override { return m_search->isOver; }
     [[nodiscard]] std::vector<AttributeRun> runsIn(const TextRange& part) const override
@@ -49,11 +49,11 @@ public:
     }
     [[nodiscard]] std::vector<AttributeRun> runsOf(const AttributedRow& row) const override
     {
-        return SlowLook(m_search).runsIn(TextRange{0, row.length()});
+        return SlowStyle(m_search).runsIn(TextRange{0, row.length()});
     }
-    [[nodiscard]] std::unique_ptr<RowLook> lookOf(const AttributedRow& /*row*/) const override
+    [[nodiscard]] std::unique_ptr<RowStyle> styleOf(const AttributedRow& /*row*/) const override
     {
-        return std::make_unique<SlowLook>(m_search);
+        return std::make_unique<SlowStyle>(m_search);
     }
 
 private:
