@@ -37,8 +37,10 @@ class DisplayPass {
 public:
     enum class Kind : std::uint8_t { Rebuild, Extension };
 
+    // Over all lines.
     static DisplayPass rebuild(const LogLines& lines, const DisplayOptions& options,
                                const UserDefaults& defaults);
+    // Over new lines, whose rows go behind those of `output`.
     static DisplayPass extension(const AttributedString& output, const LogLines& newLines,
                                  const DisplayOptions& options, const UserDefaults& defaults);
 

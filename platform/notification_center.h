@@ -15,6 +15,7 @@ namespace quillon {
 class NotificationCenter {
 public:
     void post(QLatin1StringView name) const;
+    // Calls back as long as the subscription lives.
     [[nodiscard]] Subscription observe(QLatin1StringView name, std::function<void()> callback);
 
 private:

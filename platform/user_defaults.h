@@ -52,6 +52,7 @@ public:
     // Stores a value and posts kUserDefaultsDidChange. The file is written by the event loop. Of
     // the key see SettingsText.
     void setObject(const QVariant& value, const QString& key);
+    // Forgets the stored value, so that the registered one counts.
     void removeObject(const QString& key);
 
 private:

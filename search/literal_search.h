@@ -17,6 +17,7 @@ public:
     // `literal` must not be empty.
     explicit LiteralSearch(const QString& literal);
 
+    // Whether the text has an occurrence.
     [[nodiscard]] bool isIn(const QString& text) const;
 
     // What finds the same in that text by comparing letters; null where nothing does.

@@ -42,6 +42,7 @@ public:
     TextSearch(const TextSearch&) = delete;
     TextSearch& operator=(const TextSearch&) = delete;
 
+    // Looks for the next match, in a long text for a span at most.
     [[nodiscard]] Step next();
     // As next(), but goes on to the end of the text.
     [[nodiscard]] Step nextToEnd();

@@ -20,10 +20,12 @@ public:
     ~ColorWell() override;
 
     [[nodiscard]] QColor color() const { return m_color; }
+    // Shows the colour, in an open panel too. Nothing is told of it.
     void setColor(const QColor& color);
 
     // The open panel, null when there is none.
     [[nodiscard]] QColorDialog* panel() const;
+    // Opens the panel, or brings the open one to the front.
     void openPanel();
     void closePanel();
 
@@ -31,6 +33,7 @@ public:
 
 Q_SIGNALS:
     void panelOpened();
+    // For each choice in the panel, also while one drags in it.
     void colorPicked(const QColor& color);
 
 protected:

@@ -96,6 +96,7 @@ public:
     // What to draw within one column for a picture whose glyph is kSpelled: two small letters, the
     // second one lower than the first, so that they are not taken for text of the log.
     [[nodiscard]] std::array<PictureLetter, 2> spelling(char16_t picture, FontWeight weight) const;
+    // The font of a glyph; `font` as Glyph has it, 0 or more.
     [[nodiscard]] const QRawFont& glyphFont(int font) const;
 
 private:

@@ -27,7 +27,9 @@ public:
     RowLayouter(const MonospaceMetrics& metrics, const LineBreaker& breaker,
                 const PieceShaper& shaper, const RowPlaces& places, std::optional<Fixed> lineWidth);
 
+    // The row's lines, and what is drawn on each.
     [[nodiscard]] RowLayout layOut(const AttributedRow& row) const;
+    // How much room a layout takes that was made here.
     [[nodiscard]] RowExtent extentOf(const RowLayout& layout) const;
 
 private:

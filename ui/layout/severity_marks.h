@@ -17,6 +17,7 @@ inline constexpr std::array kMarkedSeverities{LogSeverity::Fatal, LogSeverity::E
 // is new in it; any other one a look at each row.
 class SevereRows {
 public:
+    // Finds them in another text, or in what is new in the same one.
     void follow(const AttributedString& text);
 
     // By severity, in the order of kMarkedSeverities; ascending.

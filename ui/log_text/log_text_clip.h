@@ -35,8 +35,10 @@ public:
 
     // Brings a place into view with as little scrolling as possible.
     void scrollTo(TextPosition position);
+    // In points; the ends of the scroll bars are the limit.
     void scrollBy(QPoint distance);
     void scrollToEnd();
+    // Whether it can be scrolled no farther down.
     [[nodiscard]] bool isAtEnd() const;
 
 private:

@@ -28,6 +28,7 @@ public:
     LogTextInput(QAbstractScrollArea& area, const LogTextLayout& layout, LogTextClip& clip);
 
     [[nodiscard]] const LogTextSelection& selection() const { return m_selection; }
+    // See LogTextSelection::select().
     void select(TextPosition start, TextPosition end);
     void selectAll();
     // The text is another one: nothing of it is selected, and a drag is over.

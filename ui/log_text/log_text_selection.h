@@ -23,6 +23,7 @@ public:
     // Moves the caret.
     void extendTo(const AttributedString& text, TextPosition position);
     void selectAll(const AttributedString& text);
+    // Puts the anchor at `start` and the caret at `end`, which may be the one before the other.
     void select(TextPosition start, TextPosition end);
     void clear() { *this = LogTextSelection(); }
 
