@@ -9,8 +9,8 @@ namespace quillon {
 
 namespace {
 
-// Lines after which the clock is worth asking. One line takes a few milliseconds at
-// most, but for a long one, which is decided bit by bit.
+// Lines after which the clock is worth asking. One line takes a few milliseconds at most, but for a
+// long one, which is decided bit by bit.
 constexpr qsizetype kLinesPerClockCheck = 4;
 
 } // namespace

@@ -71,7 +71,7 @@ public:
     // The open file; it stays named when it could not be loaded.
     std::optional<QUrl> fileURL;
     std::optional<ReadHandle> readHandle;
-    // Looks for appended lines twice a second while it exists.
+    // Polls for appended lines twice a second while it exists.
     std::unique_ptr<QTimer> pollTimer;
     // The file's size in bytes at the last load or successful poll; the next poll starts there.
     quint64 lastFileSize = 0;

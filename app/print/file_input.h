@@ -27,8 +27,8 @@ public:
     [[nodiscard]] std::optional<SystemError> print();
 
     // Prints the rows that are appended to it as the event loop runs, if the command line asks to
-    // follow, and calls `printed` after some were. A poll that fails is told on
-    // standard error once, however often it fails in the same way.
+    // follow, and calls `printed` after some were. A poll that fails is told on standard error
+    // once, however often it fails in the same way.
     void follow(std::function<void()> printed);
 
 private:

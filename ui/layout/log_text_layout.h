@@ -59,8 +59,8 @@ public:
     // The row that a visual line belongs to, 0 ≤ line < lineCount() − 1.
     [[nodiscard]] VisualLine visualLine(qint64 line) const;
 
-    // A row in detail. The reference holds until 255 other rows have been asked
-    // for, or layOut() is called.
+    // A row in detail. The reference holds until 255 other rows have been asked for, or layOut() is
+    // called.
     [[nodiscard]] const RowLayout& rowLayout(qsizetype row) const;
 
     // The style of a part of a row and of some of what is around it.
@@ -69,8 +69,8 @@ public:
         // Whether the search had been carried so far when it was enough.
         bool isComplete;
     };
-    // Works them out until `isEnough` says so; it is asked after each span of a
-    // search (see MatchingBudget).
+    // Works them out until `isEnough` says so; it is asked after each span of a search (see
+    // MatchingBudget).
     [[nodiscard]] PartRuns runsIn(qsizetype row, const TextRange& part,
                                   const std::function<bool()>& isEnough) const;
 
